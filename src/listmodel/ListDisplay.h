@@ -36,10 +36,13 @@ class ListDisplay {
   // These come when the change has been made.
   virtual void RowChanged(const RowHandle& row, RowChange change) = 0;
   virtual void RowsReordered(const std::vector<std::int32_t>& order) = 0;  // old positions
-  virtual void ColumnChanged(std::int32_t position) = 0;
 
-  virtual void InsertColumn(std::int32_t position) = 0;
+  virtual void InsertColumn(std::int32_t position, double width) = 0;
   virtual void RemoveColumn(std::int32_t position) = 0;
+
+  // These come when the change has been made.
+  virtual void ColumnChanged(std::int32_t position) = 0;  // text, alignment or icon
+  virtual void ColumnResized(std::int32_t position, double width) = 0;
 
   // The width that a column has now, where the user may have changed the one it was given.
   virtual double ColumnWidth(std::int32_t position, double given) const = 0;

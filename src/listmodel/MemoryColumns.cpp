@@ -15,6 +15,11 @@ Value MemoryColumn::Width() const {
   return list_ == nullptr ? width_ : list_->ColumnWidth(this, width_);
 }
 
+void MemoryColumn::SetWidth(const Value& width) {
+  width_ = ValueToDouble(width);
+  if (list_ != nullptr) list_->ColumnResized(this, width_);
+}
+
 void MemoryColumn::SetKey(const Value& key) {
   sifter::Text text = ValueToText(key);
   if (text == key_) return;

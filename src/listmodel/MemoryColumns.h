@@ -24,12 +24,13 @@ class MemoryColumn final : public ColumnHeader {
   Value Tag() const override { return tag_; }
   void SetKey(const Value& key) override;
   void SetText(const Value& text) override { Set(text_, ValueToText(text)); }
-  void SetWidth(const Value& width) override { Set(width_, ValueToDouble(width)); }
+  void SetWidth(const Value& width) override;
   void SetAlignment(const Value& alignment) override { Set(alignment_, ValueToInt32(alignment)); }
   void SetIcon(const Value& icon) override { Set(icon_, icon); }
   void SetTag(const Value& tag) override { tag_ = ValueToText(tag); }
 
   const sifter::Text& KeyText() const { return key_; }
+  double GivenWidth() const { return width_; }
 
  private:
   // What a display shows of the column.

@@ -169,7 +169,7 @@ void MemoryListView::ShowColumn(const MemoryColumn* column) {
   const std::int32_t position = display_ ? PositionOfColumn(column) : 0;
   if (position == 0) return;
   try {
-    display_->InsertColumn(position);
+    display_->InsertColumn(position, column->GivenWidth());
   } catch (...) {
     if (const std::int32_t now = PositionOfColumn(column); now != 0) {
       columns_[static_cast<std::size_t>(now) - 1]->Detach();
@@ -184,6 +184,13 @@ void MemoryListView::ColumnChanged(const MemoryColumn* column) {
   if (position == 0) return;
   const Ref<MemoryListView> alive(this);
   display_->ColumnChanged(position);
+}
+
+void MemoryListView::ColumnResized(const MemoryColumn* column, double width) {
+  const std::int32_t position = display_ ? PositionOfColumn(column) : 0;
+  if (position == 0) return;
+  const Ref<MemoryListView> alive(this);
+  display_->ColumnResized(position, width);
 }
 
 double MemoryListView::ColumnWidth(const MemoryColumn* column, double given) const {

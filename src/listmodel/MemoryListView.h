@@ -94,6 +94,7 @@ class MemoryListView final : public HostListView, private SharedRows {
   void RowChanged(const RowHandle& row, RowChange change);
   void ShowColumn(const MemoryColumn* column);
   void ColumnChanged(const MemoryColumn* column);
+  void ColumnResized(const MemoryColumn* column, double width);
   double ColumnWidth(const MemoryColumn* column, double given) const;
   void GrowRows();
   std::int32_t PositionOfColumn(const MemoryColumn* column) const;

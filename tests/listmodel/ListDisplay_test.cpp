@@ -68,11 +68,14 @@ class DisplayRecorder final : public ListDisplay {
     Line(line);
   }
   void ColumnChanged(std::int32_t position) override { Line("column " + std::to_string(position)); }
-  void InsertColumn(std::int32_t position) override {
-    Line("insert column " + std::to_string(position) + ", " + Columns());
+  void InsertColumn(std::int32_t position, double width) override {
+    Line("insert column " + std::to_string(position) + " of " + Shown(width) + ", " + Columns());
   }
   void RemoveColumn(std::int32_t position) override {
     Line("remove column " + std::to_string(position) + ", " + Columns());
+  }
+  void ColumnResized(std::int32_t position, double width) override {
+    Line("column " + std::to_string(position) + " to " + Shown(width));
   }
   double ColumnWidth(std::int32_t, double given) const override {
     return width_ == 0 ? given : width_;
@@ -204,8 +207,9 @@ TEST_F(ListDisplayTest, ColumnsComeChangeAndGo) {
   column->SetKey(u"k");
   list->ColumnHeaders()->Clear();
   column->SetText(u"gone");
-  EXPECT_TRUE(recorder.Shows({"insert column 3, 3 columns", "column 3", "column 3", "column 3",
-                              "column 3", "remove column 3, 3 columns",
+  column->SetWidth(50);
+  EXPECT_TRUE(recorder.Shows({"insert column 3 of 1440, 3 columns", "column 3", "column 3 to 100",
+                              "column 3", "column 3", "remove column 3, 3 columns",
                               "remove column 2, 2 columns", "remove column 1, 1 columns"}));
 }
 
