@@ -1,0 +1,10 @@
+#pragma once
+
+namespace sifter::bench {
+
+// Compares the dialog with the yardsticks on all sizes of the generated table, measures the
+// memory of its lists, and prints both as tables. `repetitions` is for the smallest table and
+// falls as they grow. Throws std::logic_error when results differ.
+void PrintRatios(int repetitions);
+
+}  // namespace sifter::bench
