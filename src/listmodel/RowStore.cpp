@@ -209,7 +209,7 @@ void RowStore::RemoveAscending(const std::vector<std::int32_t>& positions) {
     const Entry entry = rows[i];
     if (next < positions.size() && static_cast<std::size_t>(positions[next]) == i + 1) {
       ++next;
-      DropKey(CollectionKeyOf(entry));
+      if (!keys_.empty()) DropKey(CollectionKeyOf(entry));
       removed.push_back(entry);
     } else {
       rows[kept++] = entry;
@@ -217,17 +217,31 @@ void RowStore::RemoveAscending(const std::vector<std::int32_t>& positions) {
   }
   rows_.Truncate(kept);
   ++version_;
-  for (const Entry entry : removed) Release(entry);
+  ReleaseAll(removed);
+}
+
+// The rows lie scattered over the heap, and each is touched once for its count of shares: fetching
+// ahead is what a long list's way through the processor's caches costs least by.
+void RowStore::ReleaseAll(std::span<const Entry> entries) noexcept {
+  constexpr std::size_t kAhead = 16;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    if (i + kAhead < entries.size())
+      __builtin_prefetch(reinterpret_cast<const void*>(entries[i + kAhead] & ~Entry{1}), 1);
+    Release(entries[i]);
+  }
 }
 
 void RowStore::Clear() noexcept {
   // A row may hold the last share of an object of the host's, whose end may call back in here.
-  const GapBuffer<Entry> rows = std::exchange(rows_, GapBuffer<Entry>());
+  GapBuffer<Entry> rows = std::exchange(rows_, GapBuffer<Entry>());
   keys_.clear();
   keysIndexed_ = true;
   ++version_;
-  for (const Entry entry : rows.BeforeGap()) Release(entry);
-  for (const Entry entry : rows.BehindGap()) Release(entry);
+  ReleaseAll(rows.BeforeGap());
+  ReleaseAll(rows.BehindGap());
+  // A list that is cleared is mostly filled again with as many rows.
+  rows.Truncate(0);
+  if (rows_.Size() == 0) rows_ = std::move(rows);
 }
 
 void RowStore::Assign(std::vector<RowPtr> rows) {

@@ -126,6 +126,7 @@ class RowStore {
   std::size_t IndexOf(detail::RowNode* node) const noexcept;
   void Forget(detail::RowNode* node) noexcept;
   void Release(Entry entry) noexcept;
+  void ReleaseAll(std::span<const Entry> entries) noexcept;
   void SetKey(detail::RowNode* node, Text key, bool reindex);
   void BuildKeyIndex();
   bool FindNear(const Text& key, std::size_t& index) const noexcept;
