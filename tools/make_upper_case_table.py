@@ -5,7 +5,8 @@
     tools/make_upper_case_table.py --check    compare it with what would be written
 
 Mapped are the code points of the basic plane, by Unicode's simple upper-case mapping: one code
-point to one code point, within the plane. --check ends with 0 when the file is as it should be,
+point to one code point, within the plane, and only where the way back leads to the same letter, as
+platforms do it: the long s and the dotless i stay what they are. --check ends with 0 when the file is as it should be,
 with 1 when it isn't, and with 77 (for test runners: skipped) when this Python knows another
 version of Unicode than the one that the file was made from.
 """
@@ -37,7 +38,7 @@ def pairs():
         if unicodedata.category(chr(point)) == "Cs":
             continue
         upper = simple_upper(point)
-        if upper != point:
+        if upper != point and chr(upper).lower() == chr(point):
             yield point, upper
 
 

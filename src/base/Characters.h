@@ -3,9 +3,16 @@
 namespace sifter {
 
 // The classes of characters that numbers and dates are written with. They don't depend on a
-// locale, and a character outside ASCII is in none of them.
+// locale, and but for the spaces a character outside ASCII is in none of them.
 
 constexpr bool IsBlank(char16_t unit) { return unit == u' ' || (unit >= u'\t' && unit <= u'\r'); }
+
+// Blanks, and what Unicode counts as white space beside them: the no-break space, the wide one ...
+constexpr bool IsSpace(char16_t unit) {
+  if (unit < 0x80) return IsBlank(unit);
+  return unit == 0x85 || unit == 0xA0 || unit == 0x1680 || (unit >= 0x2000 && unit <= 0x200A) ||
+         unit == 0x2028 || unit == 0x2029 || unit == 0x202F || unit == 0x205F || unit == 0x3000;
+}
 
 constexpr bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 

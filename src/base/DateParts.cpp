@@ -11,42 +11,51 @@ namespace {
 
 constexpr char16_t kEnd = u'\0';
 
+bool IsGap(char16_t unit) { return IsSpace(unit) || unit == u','; }
+
+bool IsDateMark(char16_t unit) { return unit == u'/' || unit == u'-'; }
+
+bool IsTimeMark(char16_t unit) { return unit == u':' || unit == u'.'; }
+
+TextView WithoutSpaces(TextView text) {
+  while (!text.empty() && IsSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsSpace(text.back())) text.remove_suffix(1);
+  return text;
+}
+
 class PartsReader {
  public:
-  explicit PartsReader(TextView text) : text_(text) {}
+  explicit PartsReader(TextView text) : text_(WithoutSpaces(text)) {}
 
   bool Read() {
-    SkipBlanks();
+    if (text_.empty() || IsGap(text_.front()) || IsGap(text_.back()) || IsDateMark(text_.back()))
+      return false;
     while (at_ < text_.size()) {
       if (!ReadPart()) return false;
-      ReadSeparator();
+      SkipGap();
+      if (IsDateMark(Current())) {
+        if (++dateMarks_ > kMostDateMarks) return false;
+        ++at_;
+        SkipGap();
+      }
     }
-    return separator_ != Separator::kMark;
+    return true;
   }
 
   const DateParts& Parts() const { return parts_; }
 
  private:
-  // What stands in front of the next part.
-  enum class Separator { kNone, kBlanks, kMark };
+  static constexpr int kMostDateMarks = 2;
+  static constexpr int kLargestNumber = 9999;
 
-  char16_t Current() const { return at_ < text_.size() ? text_[at_] : kEnd; }
-  char16_t Next() const { return at_ + 1 < text_.size() ? text_[at_ + 1] : kEnd; }
-  bool SkipBlanks() {
-    const std::size_t first = at_;
-    while (IsBlank(Current())) ++at_;
-    return at_ > first;
+  char16_t At(std::size_t at) const { return at < text_.size() ? text_[at] : kEnd; }
+  char16_t Current() const { return At(at_); }
+  std::size_t AfterGap() const {
+    std::size_t at = at_;
+    while (IsGap(At(at))) ++at;
+    return at;
   }
-
-  void ReadSeparator() {
-    separator_ = SkipBlanks() ? Separator::kBlanks : Separator::kNone;
-    const char16_t unit = Current();
-    if (unit == u'/' || unit == u'-' || unit == u',') {
-      separator_ = Separator::kMark;
-      ++at_;
-      SkipBlanks();
-    }
-  }
+  void SkipGap() { at_ = AfterGap(); }
 
   bool ReadPart() {
     if (IsLetter(Current())) return ReadMonth();
@@ -56,13 +65,12 @@ class PartsReader {
   }
 
   bool ReadNumber(int& number) {
-    constexpr int kMostDigits = 4;
-    int digits = 0;
+    const std::size_t first = at_;
     for (; IsDigit(Current()); ++at_) {
-      if (++digits > kMostDigits) return false;
       number = number * 10 + DigitValue(Current());
+      if (number > kLargestNumber) return false;
     }
-    return digits > 0;
+    return at_ > first;
   }
 
   bool AddNumber(int number) {
@@ -77,39 +85,33 @@ class PartsReader {
     const int month = MonthNamed(text_.substr(first, at_ - first));
     if (month == 0 || parts_.namedMonth != 0 || !MayAddToDay()) return false;
     parts_.namedMonth = month;
+    parts_.numbersBeforeMonth = parts_.numberCount;
     return true;
   }
 
   // The day may come after the time, but the time doesn't stand within the day.
-  bool MayAddToDay() const {
-    return !parts_.HasTime() || (!dayBeforeTime_ && (parts_.HasDay() || SetApart()));
-  }
-  bool SetApart() const { return separator_ == Separator::kBlanks; }
+  bool MayAddToDay() const { return !parts_.HasTime() || !dayBeforeTime_; }
 
   // Whether the number just read is an hour, by what follows it.
-  bool AtTime() const { return IsTimeMark(Current()) || MeridiemAt(AfterBlanks()).length > 0; }
-  static bool IsTimeMark(char16_t unit) { return unit == u':' || unit == u'.'; }
-  std::size_t AfterBlanks() const {
-    std::size_t at = at_;
-    while (at < text_.size() && IsBlank(text_[at])) ++at;
-    return at;
+  bool AtTime() const {
+    const std::size_t next = AfterGap();
+    return IsTimeMark(At(next)) || MeridiemAt(next).length > 0;
   }
 
   bool ReadTime(int hour) {
+    if (parts_.HasTime()) return false;
     dayBeforeTime_ = parts_.HasDay();
-    if (parts_.HasTime() || (dayBeforeTime_ && !SetApart())) return false;
     int minute = 0;
     int second = 0;
-    const char16_t mark = Current();
-    if (IsTimeMark(mark)) {
-      ++at_;
-      if (!ReadNumber(minute)) return false;
-      if (Current() == mark) {
-        ++at_;
-        if (!ReadNumber(second)) return false;
-      }
+    for (int* const field : {&minute, &second}) {
+      const std::size_t next = AfterGap();
+      if (!IsTimeMark(At(next))) break;
+      at_ = next + 1;
+      SkipGap();
+      if (!ReadNumber(*field)) return false;
     }
-    if (!ReadMeridiem(hour) || hour > 23 || minute > 59 || second > 59) return false;
+    ReadMeridiem(hour);
+    if (hour > 23 || minute > 59 || second > 59) return false;
     parts_.secondOfDay = (hour * 60 + minute) * 60 + second;
     return true;
   }
@@ -121,7 +123,7 @@ class PartsReader {
 
   Meridiem MeridiemAt(std::size_t at) const {
     const auto letterAt = [this](std::size_t i) {
-      return i < text_.size() && IsLetter(text_[i]) ? LowerLetter(text_[i]) : kEnd;
+      return IsLetter(At(i)) ? LowerLetter(At(i)) : kEnd;
     };
     const char16_t first = letterAt(at);
     if (first != u'a' && first != u'p') return {};
@@ -130,22 +132,19 @@ class PartsReader {
     return {length, first == u'p'};
   }
 
-  bool ReadMeridiem(int& hour) {
-    const std::size_t at = AfterBlanks();
+  // An hour past 12 says by itself which half of the day it is in.
+  void ReadMeridiem(int& hour) {
+    const std::size_t at = AfterGap();
     const Meridiem meridiem = MeridiemAt(at);
-    if (meridiem.length == 0) return true;
+    if (meridiem.length == 0) return;
     at_ = at + meridiem.length;
-    if (meridiem.afternoon) {
-      if (hour < 12) hour += 12;
-      return true;
-    }
-    if (hour == 12) hour = 0;
-    return hour < 12;
+    if (meridiem.afternoon && hour < 12) hour += 12;
+    if (!meridiem.afternoon && hour == 12) hour = 0;
   }
 
   TextView text_;
   std::size_t at_ = 0;
-  Separator separator_ = Separator::kNone;
+  int dateMarks_ = 0;
   bool dayBeforeTime_ = false;
   DateParts parts_;
 };

@@ -32,8 +32,8 @@ MaybeDay DayOfCurrentYear(int month, int day, const Clock& clock) {
 
 MaybeDay DayOfThree(int a, int b, int c) {
   if (const MaybeDay day = DayOf(FullYear(c), a, b)) return day;
-  if (const MaybeDay day = DayOf(FullYear(c), b, a)) return day;
   if (const MaybeDay day = DayOf(FullYear(a), b, c)) return day;
+  if (const MaybeDay day = DayOf(FullYear(c), b, a)) return day;
   return DayOf(FullYear(a), c, b);
 }
 
@@ -49,7 +49,10 @@ MaybeDay DayOfNamedMonth(int month, int number, const Clock& clock) {
   return DayOf(FullYear(number), month, 1);
 }
 
-MaybeDay DayOfNamedMonth(int month, int a, int b) {
+// Of the two numbers, `before` stand before the name of the month.
+MaybeDay DayOfNamedMonth(int month, int a, int b, int before) {
+  if (before == 0) return DayOf(FullYear(b), month, a);
+  if (before == 2) return DayOf(FullYear(a), month, b);
   if (const MaybeDay day = DayOf(FullYear(b), month, a)) return day;
   return DayOf(FullYear(a), month, b);
 }
@@ -62,7 +65,8 @@ MaybeDay DayOf(const DateParts& parts, const Clock& clock) {
       if (named) return DayOfNamedMonth(parts.namedMonth, numbers[0], clock);
       break;
     case 2:
-      if (named) return DayOfNamedMonth(parts.namedMonth, numbers[0], numbers[1]);
+      if (named)
+        return DayOfNamedMonth(parts.namedMonth, numbers[0], numbers[1], parts.numbersBeforeMonth);
       return DayOfTwo(numbers[0], numbers[1], clock);
     case 3:
       if (!named) return DayOfThree(numbers[0], numbers[1], numbers[2]);

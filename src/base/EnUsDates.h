@@ -13,11 +13,12 @@ namespace sifter {
 //
 // Which number is which:
 //   - numbers alone are month, day, year; where the calendar has no such day they are tried as
-//     day, month, year, then as year, month, day, then as year, day, month;
+//     year, month, day, then as day, month, year, then as year, day, month;
 //   - two numbers alone are month, day of the current year; or else day, month of it; or else the
 //     first of a month: month, year, or year, month;
-//   - beside a named month they are day, year, or else year, day; a single number is the day of
-//     the current year, or else the year, and the day is the first.
+//   - behind a named month they are day, year; before it year, day; on both sides of it day, year,
+//     or else year, day; a single number is the day of the current year, or else the year, and the
+//     day is the first.
 // Years up to 49 are in the 2000s, 50 to 99 in the 1900s; 100 to 9999 stand for themselves.
 // Without a day, the time is that of day 0. `clock` is asked only when the year is missing.
 std::optional<Date> ParseEnUsDate(TextView text, const Clock& clock);

@@ -61,7 +61,7 @@ class NumberTest {
   explicit NumberTest(TextView text) : text_(text) {}
 
   bool Run() {
-    SkipBlanks();
+    SkipSpaces();
     if (Current() == u'&') return ReadBased();
     return ReadPrefix() && ReadAmount() && ReadSuffix();
   }
@@ -69,8 +69,8 @@ class NumberTest {
  private:
   char16_t Current() const { return at_ < text_.size() ? text_[at_] : kEnd; }
   bool AtEnd() const { return at_ == text_.size(); }
-  void SkipBlanks() {
-    while (IsBlank(Current())) ++at_;
+  void SkipSpaces() {
+    while (IsSpace(Current())) ++at_;
   }
 
   // Moves past what may be there only once.
@@ -83,7 +83,7 @@ class NumberTest {
 
   bool ReadPrefix() {
     for (;;) {
-      SkipBlanks();
+      SkipSpaces();
       switch (Current()) {
         case u'(':
           open_ = true;
@@ -103,7 +103,7 @@ class NumberTest {
 
   bool ReadSuffix() {
     for (;;) {
-      SkipBlanks();
+      SkipSpaces();
       switch (Current()) {
         case u')':
           if (!open_) return false;
@@ -132,9 +132,11 @@ class NumberTest {
     return FitsDouble(mantissa.units, exponent);
   }
 
+  // A comma in front makes it no number, for no group ends there.
   Mantissa ReadMantissa() {
     const std::size_t first = at_;
     Mantissa mantissa;
+    if (Current() == u',') return mantissa;
     bool pointSeen = false;
     for (;; ++at_) {
       const char16_t unit = Current();
@@ -169,7 +171,7 @@ class NumberTest {
     if (letter != u'h' && letter != u'o') return false;
     ++at_;
     if (!ReadBasedDigits(letter == u'h' ? 16 : 8)) return false;
-    SkipBlanks();
+    SkipSpaces();
     return AtEnd();
   }
 

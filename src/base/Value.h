@@ -27,7 +27,7 @@ class Value {
 
   Value() = default;  // empty: never set
   Value(Null) : held_(Null()) {}
-  Value(bool boolean) : held_(boolean) {}
+  Value(bool truth) : held_(truth) {}
   Value(std::int16_t number) : held_(number) {}
   Value(std::int32_t number) : held_(number) {}
   Value(double number) : held_(number) {}

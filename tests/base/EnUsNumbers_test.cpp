@@ -131,10 +131,14 @@ TEST(EnUsNumbers, DoNotCheckThePlacesOfCommas) {
   CheckAll({
       {"next to each other", u"1,,2", true},
       {"at the end", u"5,", true},
-      {"in front", u",5", true},
+      {"behind the point, without a digit before", u".,5", true},
       {"behind the point", u"1.2,3", true},
       {"before the exponent", u"1,e5", true},
+      {"in front", u",5", false},
+      {"in front, behind the sign", u"-,5", false},
       {"within the exponent", u"1e1,0", false},
+      {"behind the exponent", u"1e5,", false},
+      {"behind a blank", u"5 ,", false},
   });
 }
 
@@ -207,7 +211,10 @@ TEST(EnUsNumbers, KnowNoOtherCharacters) {
       {"other word", u"Infinity", false},
       {"wide digits", u"\uFF11\uFF12", false},
       {"tabs and line ends", u"\t5\r\n", true},
-      {"no-break space", u"\u00A05", false},
+      {"no-break space", u"\u00A05\u00A0", true},
+      {"wide space", u"\u3000$\u30005", true},
+      {"space between digits", u"5\u00A05", false},
+      {"zero-width space", u"5\u200B", false},
       {"null behind", TextView(u"5\0", 2), false},
       {"null in front", TextView(u"\0005", 2), false},
       {"type character", u"5#", false},
