@@ -37,12 +37,28 @@ function(add_sifter_room room)
   add_sifter_folder(sifter_${room} ${room} LINK ${rooms})
 endfunction()
 
-# A program made of all .cpp files of <folder>, or nothing while there are none.
+# The Windows resource scripts of <folder> into <variable>; none for another system. A manifest
+# beside them is compiled in by naming it, so a change of it must rebuild them.
+function(sifter_resources variable folder)
+  set(scripts)
+  if(WIN32)
+    file(GLOB scripts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.rc")
+    file(GLOB manifests CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.manifest")
+    set_source_files_properties(${scripts} PROPERTIES OBJECT_DEPENDS "${manifests}")
+  endif()
+  set(${variable}
+      ${scripts}
+      PARENT_SCOPE)
+endfunction()
+
+# A program made of all .cpp files of <folder>, and on Windows of its .rc files; nothing while
+# there is no .cpp file.
 #   add_sifter_program(<name> <folder> [target...])
 function(add_sifter_program name folder)
   file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp")
   if(sources)
-    add_executable(${name} ${sources})
+    sifter_resources(resources "${folder}")
+    add_executable(${name} ${sources} ${resources})
     target_link_libraries(${name} PRIVATE sifter_flags ${ARGN})
   endif()
 endfunction()

@@ -1,4 +1,4 @@
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(SIFTER_MINGW x86_64-w64-mingw32)
-set(SIFTER_WINE_NAMES wine64 wine64-stable wine wine-stable)
+set(SIFTER_BITS 64)
 include("${CMAKE_CURRENT_LIST_DIR}/mingw.cmake")

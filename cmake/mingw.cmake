@@ -1,4 +1,5 @@
-# What both Windows toolchains share; the caller has set SIFTER_MINGW to the name of the target.
+# What both Windows toolchains share; the caller has set SIFTER_MINGW to the name of the target
+# and SIFTER_BITS to its bitness.
 set(CMAKE_SYSTEM_NAME Windows)
 # The `posix` flavour carries the C++ thread library. (GoogleTest's build asks for a C compiler.)
 set(CMAKE_C_COMPILER ${SIFTER_MINGW}-gcc-posix)
@@ -16,8 +17,4 @@ set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
 
 # Tests run where Wine is at hand, and only there.
-find_program(SIFTER_WINE NAMES ${SIFTER_WINE_NAMES} PATHS /usr/lib/wine)
-mark_as_advanced(SIFTER_WINE)
-if(SIFTER_WINE)
-  set(CMAKE_CROSSCOMPILING_EMULATOR "${SIFTER_WINE}")
-endif()
+set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../tools/wine-run;${SIFTER_BITS}")
