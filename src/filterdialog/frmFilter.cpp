@@ -72,8 +72,7 @@ bool frmFilter::ListviewsAreEqual(const Ref<HostListView>& first,
 void frmFilter::Apply() {
   RunAtWork([this] {
     Ensure(ListView1);
-    CopyListview(ListView1, UsersListview);
-    ApplyCriteria();
+    RefillAndFilter();
     Ensure(lvwCopyOfFiltered);
     CopyListview(UsersListview, lvwCopyOfFiltered);
     blnFilterActive = true;
@@ -85,6 +84,13 @@ void frmFilter::Apply() {
     FilterPlainEnglish = TrimData(FilterPlainEnglish, kJoin);
     cmdHideFilter.SetValue(true);
   });
+}
+
+// One long change for a list on the screen, which is painted once behind it.
+void frmFilter::RefillAndFilter() {
+  const UpdateScope update(UsersListview.Get());
+  CopyListview(ListView1, UsersListview);
+  ApplyCriteria();
 }
 
 void frmFilter::ApplyCriteria() {

@@ -119,6 +119,7 @@ class frmFilter final : public Form, private DialogFrame, private CriterionRows 
   void LayOut();
 
   void Apply();
+  void RefillAndFilter();
   void ApplyCriteria();
   void DescribeRow(std::int32_t i);
   Text BuildFilterFragment(TextView column, TextView operatorWord, TextView parameterText,

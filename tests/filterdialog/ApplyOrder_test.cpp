@@ -38,6 +38,7 @@ TEST_F(ApplyOrder, RefillsMatchesRecordsDescribesAndHides) {
   EXPECT_TRUE(recorder.Shows({
       // the full list comes back
       "BeginUpdate",
+      "BeginUpdate",
       "ListItems",
       "ListItems.Clear",
       "ColumnHeaders",
@@ -93,6 +94,7 @@ TEST_F(ApplyOrder, RefillsMatchesRecordsDescribesAndHides) {
       "ListItems.Item(1)",
       "ListItems(1).SubItems(1)",
       "ListItems",
+      "EndUpdate",
       "EndUpdate",
       // what is left is recorded
       "ColumnHeaders",

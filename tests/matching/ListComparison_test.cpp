@@ -1,11 +1,11 @@
 #include "matching/ListComparison.h"
 
-#include "SparseListView.h"
 #include "listmodel/ListViewDump.h"
 #include "listmodel/MemoryListView.h"
 #include "support/Lists.h"
 #include "support/Recorder.h"
 #include "support/RecordingListView.h"
+#include "support/SparseListView.h"
 
 #include <gtest/gtest.h>
 

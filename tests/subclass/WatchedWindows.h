@@ -2,8 +2,8 @@
 
 #include "subclass/HookClass.h"
 #include "support/HeadlessFormHost.h"
-#include "support/MemoryWindowSystem.h"
 #include "support/Recorder.h"
+#include "support/RecordingWindows.h"
 #include "support/VersionInfoFake.h"
 
 #include <gtest/gtest.h>
@@ -19,30 +19,6 @@ namespace sifter {
 inline std::string Parameters(std::uint32_t message, std::intptr_t wParam, std::intptr_t lParam) {
   return std::to_string(message) + ' ' + std::to_string(wParam) + ' ' + std::to_string(lParam);
 }
-
-// Windows in memory that record what is done to their procedures:
-//
-//   read procedure of 101
-//   101 gets the replacement
-//   101 gets its own back
-class RecordingWindows final : public MemoryWindowSystem {
- public:
-  explicit RecordingWindows(Recorder& recorder) : recorder_(recorder) {}
-
-  Procedure WindowProcedure(std::int32_t window) const override {
-    recorder_.Line("read procedure of " + std::to_string(window));
-    return MemoryWindowSystem::WindowProcedure(window);
-  }
-
-  void SetWindowProcedure(std::int32_t window, Procedure procedure) override {
-    recorder_.Line(std::to_string(window) +
-                   (procedure == kReplacement ? " gets the replacement" : " gets its own back"));
-    MemoryWindowSystem::SetWindowProcedure(window, procedure);
-  }
-
- private:
-  Recorder& recorder_;
-};
 
 // Windows whose own procedures record what they are called with, "101 own: 4103 5 6", and hooks
 // that record what they hear, "A hears 4103 5 6".
