@@ -1,0 +1,67 @@
+#include "win32/LateBoundList.h"
+
+#include "base/AbsorbErrors.h"
+#include "win32/LateBoundListParts.h"
+
+#include <utility>
+
+namespace sifter {
+
+namespace {
+
+std::unique_ptr<LateBoundListRows> OpenRows(IDispatch* list) {
+  const auto source = ComRef<IDispatch>(list).As<IRowTransferSource>(kRowTransferSourceId);
+  ComRef<IRowTransfer> transfer;
+  if (!source || FAILED(source->OpenTransfer(transfer.Receive())) || !transfer) return nullptr;
+  return std::make_unique<LateBoundListRows>(std::move(transfer));
+}
+
+// A handle fits 32 bits, but hosts may hand it over as an unsigned or a wider number.
+std::int32_t HandleIn(const Value& value) {
+  const double* wide = value.As<double>();
+  if (wide == nullptr || *wide < 0 || *wide > 4294967295.0) return ValueToInt32(value);
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(*wide));
+}
+
+HWND WindowOf(std::int32_t handle) { return reinterpret_cast<HWND>(static_cast<INT_PTR>(handle)); }
+
+}  // namespace
+
+LateBoundList::LateBoundList(ComRef<IDispatch> list, Transfer transfer)
+    : object_(MakeRef<LateBoundClasses>(), std::move(list), LateBoundRole::kList),
+      rows_(transfer == Transfer::kNever ? nullptr : OpenRows(object_.Get())) {}
+
+Ref<ColumnHeaderCollection> LateBoundList::ColumnHeaders() {
+  return LateBoundColumns(LateBoundObject(object_.Classes(),
+                                          object_.ReadObject(LateBoundMember::kColumnHeaders),
+                                          LateBoundRole::kColumns));
+}
+
+Ref<ListItemCollection> LateBoundList::ListItems() {
+  return LateBoundRows(LateBoundObject(
+      object_.Classes(), object_.ReadObject(LateBoundMember::kListItems), LateBoundRole::kRows));
+}
+
+std::int32_t LateBoundList::hWnd() const {
+  return HandleIn(object_.Read(LateBoundMember::kWindow));
+}
+
+// A list without a window is changed like any other.
+void LateBoundList::BeginUpdate() noexcept {
+  if (rows_) {
+    rows_->BeginUpdate();
+    return;
+  }
+  HWND window = nullptr;
+  if (pause_.IsOutermost()) AbsorbErrors([&] { window = WindowOf(hWnd()); });
+  pause_.Begin(window);
+}
+
+void LateBoundList::EndUpdate() noexcept {
+  if (rows_)
+    rows_->EndUpdate();
+  else
+    pause_.End();
+}
+
+}  // namespace sifter
