@@ -1,0 +1,18 @@
+#pragma once
+
+#include "about/frmAbout.h"
+#include "controls/DefaultDialog.h"
+#include "filterdialog/frmFilter.h"
+#include "subclass/WinProc.h"
+
+namespace sifter {
+
+// What a control needs of the world. All of it is borrowed and must outlive the control.
+struct ControlServices {
+  DialogServices dialog;
+  AboutServices about;
+  WinProc& winProc;
+  DefaultDialog& defaultDialog;
+};
+
+}  // namespace sifter
