@@ -1,0 +1,122 @@
+#include "library/InPlaceActivation.h"
+
+#include "library/ControlFrame.h"
+
+#include <utility>
+
+namespace sifter {
+
+HRESULT InPlaceActivation::Activate(IOleClientSite* client) {
+  if (IsActive()) return S_OK;
+  const auto site = ComRef<IOleClientSite>(client).As<IOleInPlaceSite>(IID_IOleInPlaceSite);
+  if (!site) return OLEOBJ_S_CANNOT_DOVERB_NOW;
+  if (site->CanInPlaceActivate() != S_OK) return E_FAIL;
+  HWND parent = nullptr;
+  if (FAILED(site->GetWindow(&parent)) || parent == nullptr) return E_FAIL;
+
+  ComRef<IOleInPlaceFrame> hostFrame;
+  ComRef<IOleInPlaceUIWindow> hostDocument;
+  RECT box{};
+  RECT visible{};
+  OLEINPLACEFRAMEINFO keys{};
+  keys.cb = sizeof keys;
+  const HRESULT told = site->OnInPlaceActivate();
+  if (FAILED(told)) return told;
+  const HRESULT placed =
+      site->GetWindowContext(hostFrame.Receive(), hostDocument.Receive(), &box, &visible, &keys);
+  if (FAILED(placed)) {
+    site->OnInPlaceDeactivate();
+    return placed;
+  }
+  site_ = site;
+  hostFrame_ = std::move(hostFrame);
+  hostDocument_ = std::move(hostDocument);
+  try {
+    window_ = std::make_unique<UserControlWindow>(
+        frame_.Control().Shown(), static_cast<UserControlSite&>(*this), parent, box);
+    window_->Place(box, visible);
+  } catch (...) {
+    Deactivate();
+    throw;
+  }
+  ShowAsDefault();
+  return S_OK;
+}
+
+HRESULT InPlaceActivation::UiActivate(IOleClientSite* client) {
+  const HRESULT active = Activate(client);
+  if (active != S_OK || uiActive_) return active;
+  uiActive_ = true;
+  site_->OnUIActivate();
+  // Any of the host's own steps may have taken the control's window away again.
+  if (IsActive()) TellFrames(&frame_.ActiveObject(), frame_.Class().name);
+  if (window_) window_->TakeFocus();
+  return S_OK;
+}
+
+// The control has no tools of its own, so the host's keep all the room.
+void InPlaceActivation::TellFrames(IOleInPlaceActiveObject* active, LPCOLESTR name) {
+  const ComRef<IOleInPlaceFrame> hostFrame = hostFrame_;
+  const ComRef<IOleInPlaceUIWindow> hostDocument = hostDocument_;
+  if (hostFrame) hostFrame->SetActiveObject(active, name);
+  if (hostDocument) hostDocument->SetActiveObject(active, name);
+  if (active == nullptr) return;
+  if (hostFrame) hostFrame->SetBorderSpace(nullptr);
+  if (hostDocument) hostDocument->SetBorderSpace(nullptr);
+}
+
+void InPlaceActivation::UiDeactivate() {
+  if (!std::exchange(uiActive_, false)) return;
+  const ComRef<IOleInPlaceSite> site = site_;
+  TellFrames(nullptr, nullptr);
+  if (site) site->OnUIDeactivate(FALSE);
+}
+
+void InPlaceActivation::Deactivate() {
+  if (!IsActive()) return;
+  UiDeactivate();
+  window_.reset();
+  hostFrame_.Reset();
+  hostDocument_.Reset();
+  if (const ComRef<IOleInPlaceSite> site = std::exchange(site_, nullptr))
+    site->OnInPlaceDeactivate();
+}
+
+void InPlaceActivation::End() noexcept {
+  uiActive_ = false;
+  window_.reset();
+  hostFrame_.Reset();
+  hostDocument_.Reset();
+  site_.Reset();
+}
+
+void InPlaceActivation::SetRects(const RECT& box, const RECT& visible) {
+  if (window_) window_->Place(box, visible);
+}
+
+void InPlaceActivation::Show(bool visible) {
+  if (Window() != nullptr) ShowWindow(Window(), visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void InPlaceActivation::ShowAsDefault() {
+  if (window_) window_->ShowAsDefault(frame_.Site().DisplayAsDefault());
+}
+
+void InPlaceActivation::FromUser(const std::function<void()>& work) {
+  const ComRef<IUnknown> alive(&frame_.Identity());
+  if (!frame_.Site().UiDead()) work();
+}
+
+void InPlaceActivation::FocusCame() {
+  const ComRef<IUnknown> alive(&frame_.Identity());
+  const ComRef<IOleClientSite> client(frame_.Site().Client());
+  if (!uiActive_ && IsActive()) UiActivate(client.Get());
+  if (const auto control = frame_.Site().Control()) control->OnFocus(TRUE);
+}
+
+void InPlaceActivation::FocusWent() {
+  const ComRef<IUnknown> alive(&frame_.Identity());
+  if (const auto control = frame_.Site().Control()) control->OnFocus(FALSE);
+}
+
+}  // namespace sifter

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "about/VersionInfo.h"
+#include "base/Clock.h"
+#include "controls/DefaultDialog.h"
+#include "win32/MessageBoxPrompts.h"
+#include "win32/ModuleVersionInfo.h"
+#include "win32/PlatformConversions.h"
+#include "win32/Win32FormHost.h"
+
+namespace sifter {
+
+// What all controls of the process share. Made with the first of them.
+struct LibraryServices {
+  SystemClock clock;
+  PlatformConversions conversions{clock};
+  ModuleVersionInfo version;
+  Win32FormHost forms;  // the default dialog's, which is never shown
+  MessageBoxPrompts prompts;
+  DefaultDialog defaultDialog{{forms, prompts, conversions, clock}};
+
+  static LibraryServices& Get();
+
+  // With the library: nothing may be in use any more.
+  static void End() noexcept;
+};
+
+}  // namespace sifter

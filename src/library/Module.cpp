@@ -1,0 +1,47 @@
+#include "library/Module.h"
+
+#include "win32/Win32WindowSystem.h"
+
+#include <atomic>
+
+namespace sifter {
+
+namespace {
+
+// Hosts may have controls on several threads.
+std::atomic<long> uses = 0;
+
+}  // namespace
+
+HINSTANCE ModuleInstance() noexcept {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<LPCWSTR>(&uses), &module);
+  return module;
+}
+
+std::wstring ModulePath() {
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length =
+        GetModuleFileNameW(ModuleInstance(), path.data(), static_cast<DWORD>(path.size()));
+    if (length < path.size()) {
+      path.resize(length);
+      return path;
+    }
+    path.resize(path.size() * 2);
+  }
+}
+
+ModuleUse::ModuleUse() noexcept { LockModule(); }
+
+ModuleUse::~ModuleUse() { UnlockModule(); }
+
+void LockModule() noexcept { ++uses; }
+
+void UnlockModule() noexcept { --uses; }
+
+bool ModuleIsIdle() noexcept { return uses == 0 && ProcessWinProc().Count() == 0; }
+
+}  // namespace sifter

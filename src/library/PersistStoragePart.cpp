@@ -1,0 +1,68 @@
+#include "library/PersistStoragePart.h"
+
+#include "library/ControlFrame.h"
+#include "library/StreamedProperties.h"
+#include "win32/Errors.h"
+
+#include <objbase.h>
+
+namespace sifter {
+
+namespace {
+
+constexpr wchar_t kStream[] = L"Contents";
+
+}  // namespace
+
+HRESULT PersistStoragePart::GetClassID(CLSID* id) {
+  if (id == nullptr) return E_POINTER;
+  *id = *Frame().Class().classId;
+  return S_OK;
+}
+
+HRESULT PersistStoragePart::IsDirty() { return Frame().IsDirty() ? S_OK : S_FALSE; }
+
+HRESULT PersistStoragePart::InitNew(IStorage* storage) {
+  if (storage == nullptr) return E_POINTER;
+  return Answer([&] {
+    Frame().InitProperties();
+    return S_OK;
+  });
+}
+
+HRESULT PersistStoragePart::Load(IStorage* storage) {
+  if (storage == nullptr) return E_POINTER;
+  return Answer([&] {
+    ComRef<IStream> stream;
+    ThrowIfFailed(storage->OpenStream(kStream, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0,
+                                      stream.Receive()));
+    SavedProperties saved = ReadStream(*stream.Get());
+    Frame().ReadProperties(saved);
+    return S_OK;
+  });
+}
+
+HRESULT PersistStoragePart::Save(IStorage* storage, BOOL) {
+  if (storage == nullptr) return E_POINTER;
+  return Answer([&] {
+    SavedProperties saved;
+    Frame().Control().WriteProperties(saved, Saving::kAll);
+    ThrowIfFailed(WriteClassStg(storage, *Frame().Class().classId));
+    ComRef<IStream> stream;
+    ThrowIfFailed(storage->CreateStream(kStream, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0,
+                                        0, stream.Receive()));
+    WriteStream(*stream.Get(), saved);
+    return S_OK;
+  });
+}
+
+// Only now it is certain that the container has kept what was saved.
+HRESULT PersistStoragePart::SaveCompleted(IStorage*) {
+  return Answer([&] {
+    Frame().SetDirty(false);
+    Frame().Notices().Saved();
+    return S_OK;
+  });
+}
+
+}  // namespace sifter

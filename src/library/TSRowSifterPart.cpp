@@ -1,0 +1,92 @@
+#include "library/TSRowSifterPart.h"
+
+#include "library/HostLists.h"
+#include "win32/UniqueBstr.h"
+#include "win32/WideText.h"
+
+namespace sifter {
+
+namespace {
+
+Text TextOf(BSTR text) { return Text(BstrView(text)); }
+
+}  // namespace
+
+DISPID TSRowSifterPart::IdOf(TextView name) const {
+  std::wstring wide = Wide(name);
+  LPOLESTR names[] = {wide.data()};
+  DISPID id = DISPID_UNKNOWN;
+  return SUCCEEDED(Information()->GetIDsOfNames(names, 1, &id)) ? id : DISPID_UNKNOWN;
+}
+
+HRESULT TSRowSifterPart::Give(const Text& text, BSTR* out) noexcept {
+  if (out == nullptr) return E_POINTER;
+  *out = nullptr;
+  return Do([&] { *out = UniqueBstr(text.View()).Release(); });
+}
+
+HRESULT TSRowSifterPart::putref_Listview(VARIANT lv) {
+  return Do([&] { sifter_.SetListview(ListFromVariant(lv, sifter_.Listview())); });
+}
+
+HRESULT TSRowSifterPart::put_Listview(VARIANT lv) { return putref_Listview(lv); }
+
+HRESULT TSRowSifterPart::get_Listview(VARIANT* lv) {
+  if (lv == nullptr) return E_POINTER;
+  VariantInit(lv);
+  return Do([&] { *lv = VariantFromList(sifter_.Listview()); });
+}
+
+HRESULT TSRowSifterPart::ShowFilter() {
+  return Do([&] { sifter_.ShowFilter(); });
+}
+
+HRESULT TSRowSifterPart::ApplyFilter(BSTR Filter) {
+  return Do([&] { sifter_.ApplyFilter(TextOf(Filter)); });
+}
+
+HRESULT TSRowSifterPart::ResetFilter() {
+  return Do([&] { sifter_.ResetFilter(); });
+}
+
+HRESULT TSRowSifterPart::TurnOffFilter() {
+  return Do([&] { sifter_.TurnOffFilter(); });
+}
+
+HRESULT TSRowSifterPart::put_Active(VARIANT_BOOL Value) {
+  return Do([&] { sifter_.SetActive(Value != VARIANT_FALSE); });
+}
+
+HRESULT TSRowSifterPart::get_Active(VARIANT_BOOL* Value) {
+  if (Value == nullptr) return E_POINTER;
+  *Value = sifter_.Active() ? VARIANT_TRUE : VARIANT_FALSE;
+  return S_OK;
+}
+
+HRESULT TSRowSifterPart::get_Filter(BSTR* Value) { return Give(sifter_.Filter(), Value); }
+
+HRESULT TSRowSifterPart::get_FilterMessage(BSTR* Value) {
+  return Give(sifter_.FilterMessage(), Value);
+}
+
+HRESULT TSRowSifterPart::put_FilterMessage(BSTR Value) {
+  return Do([&] { sifter_.SetFilterMessage(TextOf(Value)); });
+}
+
+HRESULT TSRowSifterPart::get_ColumnsToExclude(BSTR* Value) {
+  return Give(sifter_.ColumnsToExclude(), Value);
+}
+
+HRESULT TSRowSifterPart::put_ColumnsToExclude(BSTR Value) {
+  return Do([&] { sifter_.SetColumnsToExclude(TextOf(Value)); });
+}
+
+HRESULT TSRowSifterPart::get_FilterCaption(BSTR* Value) {
+  return Give(sifter_.FilterCaption(), Value);
+}
+
+HRESULT TSRowSifterPart::put_FilterCaption(BSTR Value) {
+  return Do([&] { sifter_.SetFilterCaption(TextOf(Value)); });
+}
+
+}  // namespace sifter

@@ -1,0 +1,110 @@
+#include "AllocationSpy.h"
+#include "HostedSifter.h"
+
+#include <algorithm>
+
+namespace sifter {
+
+namespace {
+
+BOOL CALLBACK CountChild(HWND, LPARAM count) {
+  ++*reinterpret_cast<int*>(count);
+  return TRUE;
+}
+
+BOOL CALLBACK CountWithChildren(HWND window, LPARAM count) {
+  EnumChildWindows(window, CountChild, count);
+  return CountChild(window, count);
+}
+
+int Windows() {
+  int count = 0;
+  EnumThreadWindows(GetCurrentThreadId(), CountWithChildren, reinterpret_cast<LPARAM>(&count));
+  return count;
+}
+
+// The system's own count is always 0 on some systems; what every handle stands for is not.
+int GdiObjects() {
+  int count = 0;
+  for (UINT_PTR handle = 1; handle <= 0xFFFF; ++handle)
+    if (GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0) ++count;
+  return count;
+}
+
+// Of all heaps, that of the component's own allocations among them.
+SIZE_T HeapBytes() {
+  HANDLE heaps[64];
+  const DWORD count = std::min<DWORD>(GetProcessHeaps(64, heaps), 64);
+  SIZE_T bytes = 0;
+  for (DWORD i = 0; i < count; ++i) {
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heaps[i]);
+    while (HeapWalk(heaps[i], &entry))
+      if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0) bytes += entry.cbData;
+    HeapUnlock(heaps[i]);
+  }
+  return bytes;
+}
+
+// A host that makes and drops controls all day, each on a form of its own with a list of its own.
+class Rounds : public ComTest {
+ protected:
+  void Round() {
+    Recorder recorder;
+    ListViewOnAForm form;
+    const Ref<HostListView> rows = NativeListView(form.List());
+    Fill(*rows, {"Name", "Qty"}, {{"Oak", "3"}, {"Ash", "5"}, {"Elm", "7"}});
+    ComRef<IDispatch> list;
+    ASSERT_EQ(CreateListViewObject(form.List(), list.Receive()), S_OK);
+    Container container(form.Parent(), recorder);
+    const IID eventsId = Library::Built().IdOf(L"__TSRowSifter");
+    EventSink events(eventsId, recorder);
+    ComRef<IDispatch> control = Create();
+    const Connection connection(control.Get(), eventsId, &events);
+    container.Place(control);
+    container.Activate();
+    PutRef(control, L"Listview", ObjectValue(list.Get()));
+    user.Does([&] {
+      dialog.Appears();
+      dialog.FiltersByMessages(0, "contains", "a");
+      dialog.Goes();
+    });
+    Call(control, L"ShowFilter");
+    user.PumpUntilDone();
+    ASSERT_EQ(FirstTexts(*rows), (Strings{"Oak", "Ash"}));
+    ASSERT_EQ(recorder.Lines().back(), "event 1");
+    control.Reset();
+  }
+
+  User user;
+  CriteriaDialog dialog{user};
+};
+
+TEST_F(Rounds, AThousandLeaveNothingBehind) {
+  constexpr int kWarmUp = 20;
+  constexpr int kRounds = 1000;
+  for (int i = 0; i < kWarmUp && !HasFailure(); ++i) Round();
+  const int windows = Windows();
+  const int gdiObjects = GdiObjects();
+  const SIZE_T heapBytes = HeapBytes();
+  for (int i = 0; i < kRounds && !HasFailure(); ++i) Round();
+  EXPECT_EQ(Windows(), windows);
+  EXPECT_EQ(GdiObjects(), gdiObjects);
+  RecordProperty("heapGrowth", std::to_string(static_cast<long long>(HeapBytes()) -
+                                              static_cast<long long>(heapBytes)));
+  // A leak of one small block in each round would be more than this.
+  EXPECT_LE(HeapBytes(), heapBytes + kRounds * 8);
+  EXPECT_EQ(Library::Built().CanUnload(), S_OK);
+}
+
+TEST_F(Rounds, LeaveNoTextBehind) {
+  if (!AllocationSpy::SeesBstrs()) GTEST_SKIP() << "BSTRs can't be counted here";
+  for (int i = 0; i < 3; ++i) Round();
+  const AllocationSpy spy;
+  for (int i = 0; i < 10 && !HasFailure(); ++i) Round();
+  EXPECT_EQ(spy.Alive(), 0);
+}
+
+}  // namespace
+
+}  // namespace sifter
