@@ -45,7 +45,11 @@ endfunction()
 # The tests of a program that the filter lets pass, as one ctest test.
 function(add_windows_test name program filter)
   file(MAKE_DIRECTORY "${SIFTER_TEST_REPORTS}")
-  add_test(NAME ${name} COMMAND ${program} --gtest_brief=1 "--gtest_filter=${filter}"
-                                "--gtest_output=xml:${SIFTER_TEST_REPORTS}/${name}.xml")
+  # A path of this machine's would be a relative one for the program.
+  add_test(
+    NAME ${name}
+    COMMAND ${program} --gtest_brief=1 "--gtest_filter=${filter}"
+            "--gtest_output=xml:test-reports/${name}.xml"
+    WORKING_DIRECTORY "${PROJECT_BINARY_DIR}")
   set_tests_properties(${name} PROPERTIES TIMEOUT 900)
 endfunction()

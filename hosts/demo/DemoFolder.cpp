@@ -51,7 +51,7 @@ void DemoWindow::FolderChanged() {
   SetTimer(window_, kFollowTimer, kQuietMilliseconds, nullptr);
 }
 
-bool DemoWindow::ListIsOurs() const { return !filtered_ && !modal_; }
+bool DemoWindow::ListIsOurs() const { return !filtered_ && modal_ == 0; }
 
 void DemoWindow::FollowFolder() {
   KillTimer(window_, kFollowTimer);

@@ -82,8 +82,8 @@ void DemoWindow::MakeChildren() {
   list_ = std::make_unique<FolderList>(window_, IDC_LIST);
   status_ = std::make_unique<StatusLine>(window_, IDC_STATUS);
   frame_ = std::make_unique<ControlFrame>(window_, [this](bool modeless) {
-    modal_ = !modeless;
-    if (modeless && changed_) PostMessageW(window_, WM_TIMER, 0, 0);
+    modal_ += modeless ? -1 : 1;
+    if (modal_ == 0 && changed_) PostMessageW(window_, WM_TIMER, 0, 0);
   });
   const RECT nowhere{};
   control_ =

@@ -63,7 +63,7 @@ class DemoWindow {
   std::wstring folder_;
   FolderWatch watch_;
   bool filtered_ = false;
-  bool modal_ = false;    // the control has its dialog open
+  int modal_ = 0;         // how many modal windows the control has open
   bool changed_ = false;  // the folder has, and the list hasn't followed
   std::unique_ptr<FolderList> list_;
   std::unique_ptr<StatusLine> status_;

@@ -23,6 +23,7 @@ frmAbout::frmAbout(const AboutServices& services)
   Label2.SetCaption(u"<Version>"_text);
   Label3.SetCaption(u"<Copyright>"_text);
   cmdOK.SetCaption(u"OK"_text);
+  CloseRequested = [this] { Hide(); };
   cmdOK.Click = [this] { Hide(); };
   LayOut();
 }

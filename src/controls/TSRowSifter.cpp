@@ -19,6 +19,10 @@ TSRowSifter::TSRowSifter(const ControlServices& services)
   cmdFilter.Click = [this] {
     if (UserMode()) ReportErrors(services_.dialog.prompts, [this] { ShowFilter(); });
   };
+  UserModeChanged = [this] {
+    const Ref<HostListView> listview = listview_;
+    if (UserMode() && listview) Hook(listview);
+  };
   Resize = [this] {
     cmdFilter.SetWidth(Width());
     cmdFilter.SetHeight(Height());
@@ -32,7 +36,10 @@ TSRowSifter::~TSRowSifter() = default;
 void TSRowSifter::SetListview(Ref<HostListView> listview) {
   if (!listview || listview == listview_) return;
   listview_ = listview;
-  if (!UserMode()) return;
+  if (UserMode()) Hook(listview);
+}
+
+void TSRowSifter::Hook(const Ref<HostListView>& listview) {
   const std::int32_t window = listview->hWnd();
   if (listview_ != listview) return;
   LVHook.SethWnd(window);
@@ -50,7 +57,7 @@ void TSRowSifter::ShowFilter() {
   const bool active = dialog_.blnFilterActive;
   const auto raise = active ? FilterActivated : FilterDeactivated;
   if (raise) raise();
-  active_ = active;
+  if (std::exchange(active_, active) != active && SettingChanged) SettingChanged();
 }
 
 // Boxes and the host's own code run inside it, also while the dialog isn't on the screen yet or not

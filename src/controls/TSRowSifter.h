@@ -67,6 +67,9 @@ class TSRowSifter final : public UserControl {
   std::function<void()> FilterActivated;
   std::function<void()> FilterDeactivated;
 
+  // A saved setting has changed by itself: Active, after a showing.
+  std::function<void()> SettingChanged;
+
   // A saved setting has been changed from outside.
   std::function<void(TextView property)> PropertyChanged;
 
@@ -84,6 +87,7 @@ class TSRowSifter final : public UserControl {
 
   void Assign(Text& field, Text value, TextView property);
   void ShowDialog(const Ref<HostListView>& listview);
+  void Hook(const Ref<HostListView>& listview);
   void Prepare(const Ref<HostListView>& listview);
   void TakeBackColor(const Container& container);
 

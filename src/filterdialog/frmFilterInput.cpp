@@ -96,13 +96,15 @@ void frmFilter::PressApplyOnEnter(Control& field) {
 }
 
 void frmFilter::TakeReferences(Control& field, std::int32_t i, std::function<void(Text)> write) {
-  field.DragDrop = [this, i, write = std::move(write)](Control& source) {
+  const auto referenceOf = [this, i](const Control& source) -> std::optional<Text> {
+    const auto* label = dynamic_cast<const Label*>(&source);
+    if (label == nullptr) return std::nullopt;
+    return DroppedReference(label->Tag(), label->Caption(), lblColumnHeaderText[i].Tag());
+  };
+  field.DragOver = [referenceOf](const Control& source) { return referenceOf(source).has_value(); };
+  field.DragDrop = [this, referenceOf, write = std::move(write)](Control& source) {
     Run([&] {
-      const auto* label = dynamic_cast<Label*>(&source);
-      if (label == nullptr) return;
-      const std::optional<Text> reference =
-          DroppedReference(label->Tag(), label->Caption(), lblColumnHeaderText[i].Tag());
-      if (reference) write(*reference);
+      if (const std::optional<Text> reference = referenceOf(source)) write(*reference);
     });
   };
 }

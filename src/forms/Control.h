@@ -108,9 +108,15 @@ class Control {
   std::function<void(std::int16_t keyCode)> KeyDown;
   std::function<void(Control& source)> DragDrop;  // `source` was dropped here
 
+  // Whether a drop of `source` would change anything; without a handler every drop might.
+  std::function<bool(const Control& source)> DragOver;
+
   // The user's doing, as passed on by whoever shows the form.
   void PressKey(std::int16_t keyCode) const;
   void Drop(Control& source) const;
+  bool TakesDrop(const Control& source) const {
+    return DragDrop && (!DragOver || DragOver(source));
+  }
 
  protected:
   template <class T>

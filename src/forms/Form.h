@@ -46,6 +46,9 @@ class Form : public ControlParent {
   // Raised each time the form's window becomes the active one.
   std::function<void()> Activate;
 
+  // The user wants the window closed by the means of its frame. A form that doesn't answer stays.
+  std::function<void()> CloseRequested;
+
   // Raised when caption, width or height have changed. Set by whoever shows the form.
   std::function<void()> Changed;
 

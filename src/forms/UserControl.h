@@ -31,13 +31,18 @@ class UserControl : public ControlParent {
 
   // Whether the host runs the form, as against designing it.
   bool UserMode() const { return userMode_; }
-  void SetUserMode(bool userMode) { userMode_ = userMode; }
+  void SetUserMode(bool userMode) {
+    if (userMode_ == userMode) return;
+    userMode_ = userMode;
+    if (UserModeChanged) UserModeChanged();
+  }
 
   // Raised when the background has changed. Set by whoever shows the control.
   std::function<void()> Changed;
 
  protected:
   std::function<void()> Resize;
+  std::function<void()> UserModeChanged;
 
  private:
   double width_ = 0;

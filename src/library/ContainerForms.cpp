@@ -4,11 +4,14 @@
 
 namespace sifter {
 
-ModalBlock::ModalBlock(ControlFrame& frame) : hostFrame_(frame.InPlace().HostFrame()) {
+ModalBlock::ModalBlock(ControlFrame& frame) : depth_(frame.ModalDepth()) {
+  if (depth_++ > 0) return;
+  hostFrame_ = ComRef<IOleInPlaceFrame>(frame.InPlace().HostFrame());
   if (hostFrame_) hostFrame_->EnableModeless(FALSE);
 }
 
 ModalBlock::~ModalBlock() {
+  --depth_;
   if (hostFrame_) hostFrame_->EnableModeless(TRUE);
 }
 

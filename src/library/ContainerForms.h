@@ -13,7 +13,8 @@ namespace sifter {
 class ControlFrame;
 
 // Tells the host's frame that a modal window of the control is on the screen, for the length of a
-// block: frames disable their own modeless windows meanwhile. Blocks may be nested.
+// block: frames disable their own modeless windows meanwhile. Blocks may be nested; the frame is
+// told of the outermost one, since hosts needn't count.
 class ModalBlock {
  public:
   explicit ModalBlock(ControlFrame& frame);
@@ -22,7 +23,8 @@ class ModalBlock {
   ModalBlock& operator=(const ModalBlock&) = delete;
 
  private:
-  ComRef<IOleInPlaceFrame> hostFrame_;  // null when there is none
+  int& depth_;
+  ComRef<IOleInPlaceFrame> hostFrame_;  // null in an inner block, and when there is none
 };
 
 // Shows a control's forms: owned by the top-level window that the control stands in, or else by the

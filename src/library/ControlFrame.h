@@ -64,6 +64,9 @@ class ControlFrame : public ComWhole {
   // is told.
   void PropertyChanged(DISPID property);
 
+  // How many modal windows of the control are on the screen.
+  int& ModalDepth() noexcept { return modalDepth_; }
+
   // Ends everything that the control shows.
   void Close();
 
@@ -79,6 +82,7 @@ class ControlFrame : public ComWhole {
   ControlSite site_;
   SIZEL extent_ = kFirstExtent;
   bool dirty_ = false;
+  int modalDepth_ = 0;
 
   ClassInfoPart classInfo_;
   ConnectionPointsPart connections_;

@@ -13,7 +13,8 @@ IDispatch* DispatchBehind(const Ref<HostListView>& list) {
   return host == nullptr ? nullptr : host->Dispatch();
 }
 
-// Arguments may come by reference, through any number of steps.
+// Arguments may come by reference, and that may be a reference to a variant; but that one must not
+// lead to yet another, which might lead in a circle.
 IUnknown* ObjectIn(const VARIANT& argument) {
   switch (argument.vt) {
     case VT_DISPATCH:
@@ -27,7 +28,8 @@ IUnknown* ObjectIn(const VARIANT& argument) {
       if (argument.ppunkVal != nullptr) return *argument.ppunkVal;
       break;
     case VT_VARIANT | VT_BYREF:
-      if (argument.pvarVal != nullptr) return ObjectIn(*argument.pvarVal);
+      if (argument.pvarVal != nullptr && argument.pvarVal->vt != argument.vt)
+        return ObjectIn(*argument.pvarVal);
       break;
     default:
       break;
@@ -37,10 +39,12 @@ IUnknown* ObjectIn(const VARIANT& argument) {
 
 }  // namespace
 
-Ref<HostListView> ListFromVariant(const VARIANT& argument, const Ref<HostListView>& attached) {
+Ref<HostListView> ListFromVariant(const VARIANT& argument,
+                                  std::initializer_list<Ref<HostListView>> known) {
   IUnknown* const object = ObjectIn(argument);
   if (object == nullptr) return nullptr;
-  if (IsSameComObject(object, DispatchBehind(attached))) return attached;
+  for (const Ref<HostListView>& list : known)
+    if (list && IsSameComObject(object, DispatchBehind(list))) return list;
   auto dispatch = ComRef<IUnknown>(object).As<IDispatch>(IID_IDispatch);
   // It has none of the members that make an object a list.
   if (!dispatch) throw RuntimeError(ErrorNumber::kObjectRequired);

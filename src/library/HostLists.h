@@ -3,6 +3,7 @@
 #include "base/Ref.h"
 #include "listmodel/HostListView.h"
 
+#include <initializer_list>
 #include <oaidl.h>
 #include <windows.h>
 
@@ -10,9 +11,11 @@ namespace sifter {
 
 // Hosts' list views, as they are handed over and given back.
 
-// The list in an argument; null for Nothing. An object that `attached` stands for already is that
-// again. Error 424 for what is no object, or one that can't be called by the names of its members.
-Ref<HostListView> ListFromVariant(const VARIANT& argument, const Ref<HostListView>& attached);
+// The list in an argument; null for Nothing. An object that one of the `known` lists stands for is
+// that list again. Error 424 for what is no object, or one that can't be called by the names of its
+// members.
+Ref<HostListView> ListFromVariant(const VARIANT& argument,
+                                  std::initializer_list<Ref<HostListView>> known);
 
 // The object behind a list that a host has handed over, with a reference for the caller; Nothing
 // for null.

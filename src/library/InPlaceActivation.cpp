@@ -7,7 +7,14 @@
 namespace sifter {
 
 HRESULT InPlaceActivation::Activate(IOleClientSite* client) {
-  if (IsActive()) return S_OK;
+  if (IsActive() || activating_) return S_OK;
+  struct Activating {
+    explicit Activating(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Activating() { flag_ = false; }
+    Activating(const Activating&) = delete;
+    Activating& operator=(const Activating&) = delete;
+    bool& flag_;
+  } activating(activating_);
   const auto site = ComRef<IOleClientSite>(client).As<IOleInPlaceSite>(IID_IOleInPlaceSite);
   if (!site) return OLEOBJ_S_CANNOT_DOVERB_NOW;
   if (site->CanInPlaceActivate() != S_OK) return E_FAIL;
@@ -45,9 +52,14 @@ HRESULT InPlaceActivation::Activate(IOleClientSite* client) {
 
 HRESULT InPlaceActivation::UiActivate(IOleClientSite* client) {
   const HRESULT active = Activate(client);
-  if (active != S_OK || uiActive_) return active;
+  if (active != S_OK || uiActive_ || !IsActive()) return active;
   uiActive_ = true;
-  site_->OnUIActivate();
+  const ComRef<IOleInPlaceSite> site = site_;
+  const HRESULT told = site->OnUIActivate();
+  if (FAILED(told)) {
+    uiActive_ = false;
+    return told;
+  }
   // Any of the host's own steps may have taken the control's window away again.
   if (IsActive()) TellFrames(&frame_.ActiveObject(), frame_.Class().name);
   if (window_) window_->TakeFocus();

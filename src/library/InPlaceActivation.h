@@ -62,6 +62,7 @@ class InPlaceActivation final : private UserControlSite {
   ComRef<IOleInPlaceFrame> hostFrame_;
   ComRef<IOleInPlaceUIWindow> hostDocument_;
   std::unique_ptr<UserControlWindow> window_;
+  bool activating_ = false;  // the host is being asked; what it does meanwhile doesn't start again
   bool uiActive_ = false;
 };
 

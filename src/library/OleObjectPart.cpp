@@ -28,7 +28,8 @@ HRESULT OleObjectPart::SaveIfDirty(DWORD saving) {
   const ComRef<IOleClientSite> client(Frame().Site().Client());
   if (saving == OLECLOSE_NOSAVE || !Frame().IsDirty() || !client) return S_OK;
   const HRESULT saved = client->SaveObject();
-  if (SUCCEEDED(saved)) Frame().Notices().Saved();
+  // A container that saves into a storage has the notice sent from there.
+  if (SUCCEEDED(saved) && Frame().IsDirty()) Frame().Notices().Saved();
   return saved;
 }
 

@@ -5,6 +5,7 @@
 #include "win32/Errors.h"
 
 #include <objbase.h>
+#include <utility>
 
 namespace sifter {
 
@@ -42,7 +43,7 @@ HRESULT PersistStoragePart::Load(IStorage* storage) {
   });
 }
 
-HRESULT PersistStoragePart::Save(IStorage* storage, BOOL) {
+HRESULT PersistStoragePart::Save(IStorage* storage, BOOL sameAsLoaded) {
   if (storage == nullptr) return E_POINTER;
   return Answer([&] {
     SavedProperties saved;
@@ -52,13 +53,17 @@ HRESULT PersistStoragePart::Save(IStorage* storage, BOOL) {
     ThrowIfFailed(storage->CreateStream(kStream, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0,
                                         0, stream.Receive()));
     WriteStream(*stream.Get(), saved);
+    savedInPlace_ = sameAsLoaded != FALSE;
     return S_OK;
   });
 }
 
-// Only now it is certain that the container has kept what was saved.
-HRESULT PersistStoragePart::SaveCompleted(IStorage*) {
+// Only now it is certain that the container has kept what was saved. A copy that was saved
+// somewhere else leaves the control as changed as it was, unless the container goes on with the
+// copy.
+HRESULT PersistStoragePart::SaveCompleted(IStorage* storage) {
   return Answer([&] {
+    if (!std::exchange(savedInPlace_, false) && storage == nullptr) return S_OK;
     Frame().SetDirty(false);
     Frame().Notices().Saved();
     return S_OK;

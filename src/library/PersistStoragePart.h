@@ -19,6 +19,9 @@ class PersistStoragePart final : public FramePart<IPersistStorage> {
   HRESULT STDMETHODCALLTYPE Save(IStorage* storage, BOOL sameAsLoaded) override;
   HRESULT STDMETHODCALLTYPE SaveCompleted(IStorage* storage) override;
   HRESULT STDMETHODCALLTYPE HandsOffStorage() override { return S_OK; }
+
+ private:
+  bool savedInPlace_ = false;  // into the storage that the control was loaded from
 };
 
 }  // namespace sifter

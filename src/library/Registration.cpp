@@ -72,9 +72,10 @@ void RegisterLibrary() {
 
 void UnregisterLibrary() {
   const std::vector<RegistryRow> rows = RegistrationRows();
+  // The user's own first: the machine's may be refused.
+  RemoveAll(HKEY_CURRENT_USER, rows);
   LeaveCategories();
   RemoveAll(HKEY_LOCAL_MACHINE, rows);
-  RemoveAll(HKEY_CURRENT_USER, rows);
 }
 
 }  // namespace sifter

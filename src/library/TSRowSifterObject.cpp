@@ -35,6 +35,7 @@ TSRowSifterObject::TSRowSifterObject(const ControlClass& self, IUnknown* outer)
   Offer(__uuidof(_TSRowSifter), dispatch_);
   sifter_.FilterActivated = [this] { Events().Raise(kFilterActivated); };
   sifter_.FilterDeactivated = [this] { Events().Raise(kFilterDeactivated); };
+  sifter_.SettingChanged = [this] { SetDirty(true); };
   sifter_.PropertyChanged = [this](TextView name) { PropertyChanged(dispatch_.IdOf(name)); };
   Shown().SetSize(HimetricToTwips(Extent().cx), HimetricToTwips(Extent().cy));
 }

@@ -26,7 +26,11 @@ HRESULT TSRowSifterPart::Give(const Text& text, BSTR* out) noexcept {
 }
 
 HRESULT TSRowSifterPart::putref_Listview(VARIANT lv) {
-  return Do([&] { sifter_.SetListview(ListFromVariant(lv, sifter_.Listview())); });
+  return Do([&] {
+    // The one that the dialog knows is remembered too: its copies belong to that very list.
+    const Ref<HostListView> prepared = sifter_.Dialog().UsersListview;
+    sifter_.SetListview(ListFromVariant(lv, {sifter_.Listview(), prepared}));
+  });
 }
 
 HRESULT TSRowSifterPart::put_Listview(VARIANT lv) { return putref_Listview(lv); }

@@ -1,5 +1,6 @@
 #include "win32/ControlWindow.h"
 
+#include "base/RuntimeError.h"
 #include "win32/ControlHost.h"
 #include "win32/WideText.h"
 #include "win32/WindowEntry.h"
@@ -28,6 +29,7 @@ ControlWindow::ControlWindow(ControlHost& host, Control& control, const wchar_t*
                             0, 0, 0, host.Handle(),
                             reinterpret_cast<HMENU>(static_cast<INT_PTR>(host.IdOf(control))),
                             module, nullptr);
+  if (window_ == nullptr) throw RuntimeError(ErrorNumber::kOutOfMemory);
   TakeFont();
   SetWindowSubclass(window_, Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
 }

@@ -14,6 +14,7 @@ class FormMeasures {
   explicit FormMeasures(HWND window);
 
   int Pixels(double twips) const { return TwipsToPixels(twips, dpi_); }
+  int Dpi() const { return dpi_; }
   HFONT Font() const { return font_.Get(); }
 
  private:

@@ -1,10 +1,12 @@
 #include "win32/FormWindow.h"
 
+#include "base/RuntimeError.h"
 #include "win32/FormOrder.h"
 #include "win32/TextBoxWindow.h"
 #include "win32/WideText.h"
 #include "win32/WindowEntry.h"
 
+#include <commctrl.h>
 #include <utility>
 
 namespace sifter {
@@ -33,6 +35,8 @@ void RegisterWindowClass(WNDPROC procedure) {
   windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
   windowClass.lpszClassName = kWindowClass;
   RegisterClassExW(&windowClass);  // fails harmlessly when it is registered already
+  const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
+  InitCommonControlsEx(&classes);
 }
 
 }  // namespace
@@ -43,6 +47,7 @@ FormWindow::FormWindow(Form& form) : form_(form), measures_(nullptr) {
   RegisterWindowClass(Procedure);
   CreateWindowExW(kExtendedStyle, kWindowClass, Wide(form_.Caption()).c_str(), kStyle, 0, 0, 0, 0,
                   nullptr, nullptr, ThisModule(), this);
+  if (window_ == nullptr) throw RuntimeError(ErrorNumber::kOutOfMemory);
   measures_ = FormMeasures(window_);
   for (Control* control : form_.Controls()) MakeControl(*control);
   form_.Watch(this);
@@ -137,7 +142,9 @@ void FormWindow::Show(HWND owner) {
   Complete();
   Resize();
   shown_ = true;
+  if (DpiOf(window_) != measures_.Dpi()) OnNewSurroundings();
   ShowWindow(window_, SW_SHOW);
+  if (!shown_) return;  // the host has hidden the form while its own window gave way
   if (form_.ActiveControl() != nullptr) FocusOn(*form_.ActiveControl());
   if (Find(GetFocus()) == nullptr) MoveFocus(false);
 }
@@ -161,7 +168,32 @@ void FormWindow::EnableOwners() {
   for (const HWND owner : std::exchange(disabled_, {})) EnableWindow(owner, TRUE);
 }
 
+namespace {
+
+struct Disabling {
+  HWND form;
+  std::vector<HWND>& disabled;
+};
+
+BOOL CALLBACK DisableOther(HWND window, LPARAM parameter) {
+  const auto& disabling = *reinterpret_cast<const Disabling*>(parameter);
+  if (window == disabling.form || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+  disabling.disabled.push_back(window);
+  EnableWindow(window, FALSE);
+  return TRUE;
+}
+
+}  // namespace
+
+// Nobody owns the form, since no window of the thread was active. All of them wait for it.
+void FormWindow::DisableThread() {
+  const Disabling disabling{window_, disabled_};
+  EnumThreadWindows(GetCurrentThreadId(), DisableOther, reinterpret_cast<LPARAM>(&disabling));
+}
+
 void FormWindow::RunModal(HWND owner) {
+  if (!form_.Visible()) return;
+  if (owner == nullptr) DisableThread();
   for (; owner != nullptr; owner = GetWindow(owner, GW_OWNER))
     if (IsWindowEnabled(owner)) {
       disabled_.push_back(owner);
@@ -214,7 +246,8 @@ LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam,
 LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_CLOSE:
-      return 0;  // only the form's own buttons leave it
+      if (form_.CloseRequested) form_.CloseRequested();
+      return 0;
     case WM_COMMAND:
       if (ControlWindow* control = Find(reinterpret_cast<HWND>(lParam)))
         control->OnCommand(HIWORD(wParam));

@@ -70,6 +70,7 @@ class FormWindow final : public ControlWatcher, public ControlHost {
   void ShowOrHide(ControlWindow& control);
   void Resize();
   void EnableOwners();
+  void DisableThread();
   void ScrollTo(int offset);
   void ScrollIntoView(HWND window);
   void MoveFocus(bool backwards);

@@ -78,7 +78,7 @@ void LabelWindow::FollowMouse(POINT at) {
     dragging_ = true;
   if (!dragging_) return;
   const ControlWindow* target = TargetAt(at);
-  const bool takesDrops = target != nullptr && target->Shown().DragDrop;
+  const bool takesDrops = target != nullptr && target->Shown().TakesDrop(label_);
   SetCursor(LoadCursorW(nullptr, takesDrops ? IDC_HAND : IDC_NO));
 }
 

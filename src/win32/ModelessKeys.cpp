@@ -3,6 +3,7 @@
 #include "win32/WindowEntry.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace sifter {
 
@@ -21,16 +22,15 @@ void ModelessKeys::Watch(FormWindow& window) {
   Forget(window);
   windows_.push_back(&window);
   if (hook_ != nullptr) return;
-  watching.push_back(this);
+  if (std::find(watching.begin(), watching.end(), this) == watching.end()) watching.push_back(this);
   hook_ = SetWindowsHookExW(WH_GETMESSAGE, Procedure, nullptr, GetCurrentThreadId());
 }
 
 void ModelessKeys::Forget(FormWindow& window) {
   std::erase(windows_, &window);
-  if (!windows_.empty() || hook_ == nullptr) return;
-  UnhookWindowsHookEx(hook_);
-  hook_ = nullptr;
+  if (!windows_.empty()) return;
   std::erase(watching, this);
+  if (hook_ != nullptr) UnhookWindowsHookEx(std::exchange(hook_, nullptr));
 }
 
 bool ModelessKeys::Translate(MSG& message) {

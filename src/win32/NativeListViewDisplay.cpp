@@ -119,6 +119,7 @@ double NativeListViewDisplay::ColumnWidth(std::int32_t position, double given) c
 std::optional<LRESULT> NativeListViewDisplay::OnMessage(UINT message, WPARAM wParam,
                                                         LPARAM lParam) {
   if (message == WM_NCDESTROY) return OnWindowGone(wParam, lParam);
+  const Ref<MemoryListView> list = alive_;  // the host may destroy the window in a notice
   if (message == WM_SETFONT) look_.ForgetFont();
   if (const std::optional<LRESULT> own = items_.OnMessage(message, wParam, lParam)) return own;
   if (columns_.IsAtWork()) return std::nullopt;
@@ -141,6 +142,7 @@ std::optional<LRESULT> NativeListViewDisplay::OnParentMessage(UINT message, WPAR
   if (message != WM_NOTIFY || lParam == 0) return std::nullopt;
   NMHDR& notice = *reinterpret_cast<NMHDR*>(lParam);
   if (notice.hwndFrom != window_.handle) return std::nullopt;
+  const Ref<MemoryListView> list = alive_;  // the host may destroy the window in its answer
   return OnNotice(notice, wParam, lParam);
 }
 

@@ -89,6 +89,39 @@ TEST_F(Filtering, TheOneEventComesBeforeActive) {
   EXPECT_EQ(Get(control, L"Active"), Value(false));
 }
 
+// The rows that the filter has taken out are the dialog's to keep until the host's list is changed.
+TEST_F(Filtering, AListThatComesBackFindsItsFilter) {
+  FilterNames("contains", "r");
+  const ListViewOnAForm otherForm;
+  const Ref<HostListView> other = NativeListView(otherForm.List());
+  Fill(*other, {"Name"}, {{"Yew"}});
+  ComRef<IDispatch> otherList;
+  ASSERT_EQ(CreateListViewObject(otherForm.List(), otherList.Receive()), S_OK);
+  PutRef(control, L"Listview", ObjectValue(otherList.Get()));
+  PutRef(control, L"Listview", ObjectValue(list.Get()));
+  Show([&] {
+    EXPECT_EQ(dialog.TextOf(dialog.Operator(0)), "contains");
+    dialog.PressesByMessage("&Reset Filter");
+  });
+  EXPECT_EQ(Names(), (Strings{"Oak", "Ash", "Elm", "Larch", "Birch"}));
+  PutRef(control, L"Listview", ObjectValue(list.Get()));
+}
+
+TEST_F(Filtering, TheFrameIsToldOnceOfTheDialogAndTheBoxOnIt) {
+  Show([&] {
+    dialog.Picks(1, "is between");
+    dialog.Fills(1, 1, "2");
+    dialog.Fills(1, 2, "6");
+    dialog.Clicks("&Apply Criteria");
+    user.WaitsFor([] { return MessageBoxWindow() != nullptr; });
+    EXPECT_TRUE(recorder.Shows({"frame.EnableModeless False"}));
+    user.Presses(VK_RETURN);
+    user.WaitsFor([] { return MessageBoxWindow() == nullptr; });
+  });
+  EXPECT_TRUE(
+      recorder.Shows({"frame.EnableModeless False", "frame.EnableModeless True", "event 1"}));
+}
+
 TEST_F(Filtering, TheFramesOtherWindowsAreDisabledMeanwhile) {
   Show([&] {
     EXPECT_TRUE(recorder.Shows({"frame.EnableModeless False"}));

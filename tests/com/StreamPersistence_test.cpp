@@ -93,6 +93,19 @@ TEST_F(StreamPersistence, StoragesKeepEverythingButTheExcludedColumns) {
   EXPECT_EQ(FieldsOf(second), SavedAndLoadedFields());
 }
 
+TEST_F(StreamPersistence, ACopySavedElsewhereLeavesTheControlChanged) {
+  Put(container.As<IDispatch>(), L"FilterCaption", u"Trees");
+  const ComRef<IStorage> storage = NewStorage();
+  const auto persist = container.As<IPersistStorage>();
+  ASSERT_EQ(persist->IsDirty(), S_OK);
+  ASSERT_EQ(persist->Save(storage.Get(), FALSE), S_OK);
+  ASSERT_EQ(persist->SaveCompleted(nullptr), S_OK);
+  EXPECT_EQ(persist->IsDirty(), S_OK);
+  ASSERT_EQ(persist->Save(storage.Get(), TRUE), S_OK);
+  ASSERT_EQ(persist->SaveCompleted(nullptr), S_OK);
+  EXPECT_EQ(persist->IsDirty(), S_FALSE);
+}
+
 TEST_F(StreamPersistence, AStorageOfSomethingElseIsRefused) {
   EXPECT_TRUE(FAILED(container.As<IPersistStorage>()->Load(NewStorage().Get())));
 }

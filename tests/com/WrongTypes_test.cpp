@@ -43,6 +43,14 @@ TEST_F(WrongTypes, AreRefusedByTextAndBoolean) {
   VariantClear(&notBoolean);
 }
 
+TEST_F(WrongTypes, AReferenceThatLeadsInACircleIsNoListview) {
+  const auto direct = control.As<_TSRowSifter>(__uuidof(_TSRowSifter));
+  VARIANT circle{};
+  circle.vt = VT_BYREF | VT_VARIANT;
+  circle.pvarVal = &circle;
+  EXPECT_EQ(direct->putref_Listview(circle), static_cast<HRESULT>(0x800A01A8));
+}
+
 TEST_F(WrongTypes, AreNoListview) {
   const HRESULT objectRequired = static_cast<HRESULT>(0x800A01A8);
   VARIANT array{};

@@ -135,6 +135,16 @@ TEST_F(SifterListview, OnAFormThatIsBeingDesignedNothingIsWatched) {
   EXPECT_EQ(MessagesAskedFor(), Messages());
 }
 
+TEST_F(SifterListview, WhenTheFormIsRunTheListOfItsDesignIsWatched) {
+  control.SetUserMode(false);
+  control.SetListview(Foreign(list));
+  control.SetUserMode(true);
+  EXPECT_TRUE(recorder.Shows({"hWnd", "read procedure of 101", "101 gets the replacement"}));
+  EXPECT_EQ(MessagesAskedFor(), (Messages{4103, 4104, 4105}));
+  control.SetUserMode(true);
+  EXPECT_EQ(recorder.Lines().size(), 3u);
+}
+
 TEST_F(SifterListview, TheHostMayAttachAnotherOneOnBeingAskedForTheHandle) {
   int alive = 0;
   auto talkative = MakeRef<TalkativeList>(list);

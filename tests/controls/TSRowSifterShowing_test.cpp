@@ -92,6 +92,24 @@ TEST_F(SifterShowing, RaisesOneEventEachTimeThoughNothingHasChanged) {
   EXPECT_EQ(FirstTexts(*list), (Names{"Oak", "Ash", "Larch"}));
 }
 
+TEST_F(SifterShowing, ThatChangesActiveHasChangedASetting) {
+  control.SetListview(list);
+  int changes = 0;
+  control.SettingChanged = [&] { ++changes; };
+  UserHides();
+  control.ShowFilter();
+  EXPECT_EQ(changes, 0);
+  UserApplies();
+  control.ShowFilter();
+  EXPECT_EQ(changes, 1);
+  UserApplies();
+  control.ShowFilter();
+  EXPECT_EQ(changes, 1);
+  UserResets();
+  control.ShowFilter();
+  EXPECT_EQ(changes, 2);
+}
+
 TEST_F(SifterShowing, WorksWithoutHandlers) {
   control.FilterActivated = nullptr;
   control.FilterDeactivated = nullptr;

@@ -109,6 +109,17 @@ TEST_F(DialogInput, AHeaderOfAnotherTypeChangesNothing) {
   EXPECT_EQ(DumpDialog(dialog), before);
 }
 
+TEST_F(DialogInput, AFieldSaysBeforehandWhetherItTakesADrop) {
+  EXPECT_TRUE(dialog.cboCriteria[0].TakesDrop(Header(3)));
+  EXPECT_FALSE(dialog.cboCriteria[0].TakesDrop(Header(1)));
+  EXPECT_TRUE(dialog.txtFrom[1].TakesDrop(Header(4)));
+  EXPECT_FALSE(dialog.txtTo[1].TakesDrop(Header(2)));
+  EXPECT_TRUE(dialog.dtpTo[2].TakesDrop(Header(5)));
+  EXPECT_FALSE(dialog.dtpTo[2].TakesDrop(Header(1)));
+  EXPECT_FALSE(dialog.dtpTo[2].TakesDrop(dialog.cmdApply));
+  EXPECT_FALSE(dialog.cmdApply.TakesDrop(Header(0)));
+}
+
 TEST_F(DialogInput, OnlyHeadersCanBeDropped) {
   const std::string before = DumpDialog(dialog);
   for (Control* source : std::initializer_list<Control*>{

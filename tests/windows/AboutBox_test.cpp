@@ -28,6 +28,8 @@ class AboutReader {
   AboutReader(const AboutReader&) = delete;
   AboutReader& operator=(const AboutReader&) = delete;
 
+  static inline bool closesByFrame = false;
+
   // "Static: Version 1.06", in the order of the windows from front to back.
   static const Strings& Texts() { return texts_; }
 
@@ -46,7 +48,10 @@ class AboutReader {
       if (text == u"OK") ok = child;
     }
     EXPECT_EQ(GetFocus(), ok);
-    SendMessageW(ok, BM_CLICK, 0, 0);
+    if (closesByFrame)
+      SendMessageW(box, WM_CLOSE, 0, 0);
+    else
+      SendMessageW(ok, BM_CLICK, 0, 0);
   }
 
   static inline Strings texts_;
@@ -69,6 +74,19 @@ TEST(AboutBoxWindow, ShowsWhatTheModuleSaysUntilOkIsPressed) {
                                     }));
     EXPECT_EQ(FindWindowW(nullptr, kTitle), nullptr);
   }
+}
+
+TEST(AboutBoxWindow, MayBeClosedByItsFrame) {
+  Win32FormHost forms;
+  const ModuleVersionInfo version;
+  HookClass hook(ProcessWinProc(), {forms, version});
+  AboutReader::closesByFrame = true;
+  {
+    const AboutReader reader;
+    hook.AboutBox();
+  }
+  AboutReader::closesByFrame = false;
+  EXPECT_EQ(FindWindowW(nullptr, kTitle), nullptr);
 }
 
 }  // namespace

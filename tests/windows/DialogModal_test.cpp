@@ -102,6 +102,19 @@ TEST_F(DialogModal, IsDisabledItselfByAFormThatItShows) {
   EXPECT_EQ(GetFocus(), hostForm.List());
 }
 
+// A host may hide it as soon as its own window gives way.
+TEST_F(DialogModal, LeavesNothingDisabledWhenItIsHiddenWhileItComes) {
+  const ScopedSubclass host_(hostForm.Parent(), [&](HWND, UINT message, WPARAM wParam, LPARAM) {
+    if (message == WM_ACTIVATE && LOWORD(wParam) == WA_INACTIVE) dialog.Hide();
+    return std::optional<LRESULT>();
+  });
+  SetActiveWindow(hostForm.Parent());
+  dialog.Show(ShowMode::kModal);
+  EXPECT_FALSE(dialog.Visible());
+  EXPECT_FALSE(IsWindowVisible(Window()));
+  EXPECT_TRUE(HostIsEnabled());
+}
+
 TEST_F(DialogModal, EndsWithTheProgramWhoseOuterLoopHearsOfIt) {
   user.Does([&] {
     user.WaitsFor([&] { return dialog.Visible() && IsWindowVisible(Window()) != FALSE; });

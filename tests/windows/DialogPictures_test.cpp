@@ -107,7 +107,10 @@ class DialogPictures : public DialogOnScreen {
 };
 
 TEST_F(DialogPictures, OfEveryKindOfRow) { SaveEveryKindOfRow(); }
-TEST_F(DialogPictures, OfEveryKindOfRowAt144Dpi) { SaveEveryKindOfRow(); }
+TEST_F(DialogPictures, OfEveryKindOfRowAt144Dpi) {
+  ASSERT_EQ(ScreenDpi(), 144);
+  SaveEveryKindOfRow();
+}
 TEST_F(DialogPictures, OfEverySize) { SaveEverySize(); }
 TEST_F(DialogPictures, OfEverySizeAt144Dpi) { SaveEverySize(); }
 TEST_F(DialogPictures, OfTheBoxes) { SaveBoxes(); }

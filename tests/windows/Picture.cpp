@@ -93,7 +93,7 @@ void SavePicture(HWND window, const std::string& name) {
   RECT box;
   GetWindowRect(window, &box);
   Bitmap bitmap = Capture(window, {0, 0, box.right - box.left, box.bottom - box.top});
-  ASSERT_EQ(CoInitialize(nullptr), S_OK);
+  ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
   EXPECT_EQ(Write(bitmap, FileFor(name)), S_OK) << name;
   CoUninitialize();
 }
