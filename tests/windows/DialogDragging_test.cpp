@@ -175,14 +175,15 @@ TEST_F(DialogDragging, ShowsWithItsCursorWhereItCanBeDropped) {
   Show([&] {
     PickOperators();
     Takes(kPrice);
-    for (const Control* field : std::initializer_list<const Control*>{
-             &dialog.txtFrom[kQuantity], &dialog.txtTo[kQuantity], &dialog.cboCriteria[kName],
-             &dialog.txtFrom[kShipped]}) {
+    for (const Control* field : std::initializer_list<const Control*>{&dialog.txtFrom[kQuantity],
+                                                                      &dialog.txtTo[kQuantity]}) {
       user.MovesTo(MiddleOf(WindowOf(*field)));
       EXPECT_TRUE(CursorIs(IDC_HAND)) << NameOf(*field);
     }
+    // Fields of another type among them.
     for (const Control* other : std::initializer_list<const Control*>{
-             &dialog.lblCaption, &dialog.cmdApply, &dialog.cboOperator[kName]}) {
+             &dialog.cboCriteria[kName], &dialog.txtFrom[kShipped], &dialog.lblCaption,
+             &dialog.cmdApply, &dialog.cboOperator[kName]}) {
       user.MovesTo(MiddleOf(WindowOf(*other)));
       EXPECT_TRUE(CursorIs(IDC_NO)) << NameOf(*other);
     }
