@@ -19,8 +19,9 @@ __declspec(dllexport) void CloseComponent(Component* component);
 
 // Sets a criterion for a column (from 0); the others stay. `first` and `second` are the values as a
 // user types them. 0 when the column doesn't offer the operator.
-__declspec(dllexport) int SetCriterion(Component* component, int column, const wchar_t* operatorWord,
-                                       const wchar_t* first, const wchar_t* second);
+__declspec(dllexport) int SetCriterion(Component* component, int column,
+                                       const wchar_t* operatorWord, const wchar_t* first,
+                                       const wchar_t* second);
 
 // Presses Apply; what it takes, in milliseconds.
 __declspec(dllexport) double Apply(Component* component);

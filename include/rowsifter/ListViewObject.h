@@ -9,7 +9,8 @@
 //     list->Release();
 //   }
 //
-// Link with the static library RowSifterListView and comctl32, gdi32, ole32, oleaut32, user32, uuid.
+// Link with the static library RowSifterListView and comctl32, gdi32, ole32, oleaut32, user32,
+// uuid.
 //
 // The object has the members of the list model, which any script can use as well. Names are found
 // whatever the case of their letters; positions count from 1; arguments may be given by name:
@@ -58,10 +59,12 @@ extern "C" {
 //
 // What the window holds already is taken over: columns, and rows with their texts, pictures, check
 // marks and ghosted states. The program may go on sending the window messages of its own: rows that
-// it inserts, changes or deletes are followed, columns too, but a watcher of the messages is told of
-// them before the object has them. The window's own sorting (LVM_SORTITEMS) is refused; use SortKey
-// and Sorted. A row that the filter has taken out and put back is another item of the window: keep
-// what belongs to it in Tag or Key, not in the item's lParam.
+// it inserts, changes or deletes are followed, columns too, but a watcher of the messages is told
+// of them before the object has them. The window's own sorting (LVM_SORTITEMS) is refused; use
+// SortKey and Sorted. Of columns the last one may come and go this way while there are rows; when
+// one in front of others does, the texts of the rows don't move with it, so make the columns first.
+// A row that the filter has taken out and put back is another item of the window: keep what belongs
+// to it in Tag or Key, not in the item's lParam.
 //
 // The window is asked for the texts when it draws: its parent, which must be the window that it
 // sends its notices to, is subclassed for that until the list view is destroyed, and notices that

@@ -12,7 +12,7 @@ struct DateParts {
 
   int numbers[kMostNumbers] = {};  // as written, none above 9999
   int numberCount = 0;
-  int namedMonth = 0;    // 1 to 12; 0 when no month is named
+  int namedMonth = 0;  // 1 to 12; 0 when no month is named
   int numbersBeforeMonth = 0;
   int secondOfDay = -1;  // -1 when there is no time of day
 

@@ -19,7 +19,7 @@ constexpr TextView kNames[] = {
 };
 static_assert(std::size(kNames) == kLateBoundMembers);
 
-// Script objects answer the ordinary question with "not implemented".
+// Script objects refuse the ordinary question with E_NOTIMPL and answer through IDispatchEx alone.
 HRESULT Ask(IDispatch* object, TextView name, DISPID& id) {
   const UniqueBstr asked(name);
   LPOLESTR names[] = {asked.Get()};

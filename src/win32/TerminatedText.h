@@ -22,9 +22,8 @@ class TerminatedText {
       long_ = std::make_unique<wchar_t[]>(size);
       units_ = long_.get();
     }
-    wchar_t* const end = std::transform(text.begin(), text.end(), units_, [](char16_t unit) {
-      return static_cast<wchar_t>(unit);
-    });
+    wchar_t* const end = std::transform(text.begin(), text.end(), units_,
+                                        [](char16_t unit) { return static_cast<wchar_t>(unit); });
     std::fill_n(end, kZeros, L'\0');
   }
   TerminatedText(const TerminatedText&) = delete;

@@ -1,8 +1,8 @@
 #include "win32/TextBoxWindow.h"
 
 #include "forms/DatePicker.h"
-#include "win32/DatePickerWindow.h"
 #include "win32/ControlHost.h"
+#include "win32/DatePickerWindow.h"
 #include "win32/WideText.h"
 
 #include <string>

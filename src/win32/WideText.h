@@ -1,10 +1,9 @@
 #pragma once
 
-#include <windows.h>
+#include "base/Text.h"
 
 #include <string>
-
-#include "base/Text.h"
+#include <windows.h>
 
 namespace sifter {
 
