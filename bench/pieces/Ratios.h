@@ -7,4 +7,8 @@ namespace sifter::bench {
 // falls as they grow. Throws std::logic_error when results differ.
 void PrintRatios(int repetitions);
 
+// Measures a banner that filters again after its host has added rows, beside one comparison of all
+// rows, and prints a table.
+void PrintReapplying(int repetitions);
+
 }  // namespace sifter::bench

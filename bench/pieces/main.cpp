@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int kRepetitions = 1500;
+constexpr int kBannerRepetitions = 15;
 
 // Takes an option of our own out of the arguments; the others are the benchmark library's.
 bool TakeOption(int& argc, char** argv, const char* option) {
@@ -23,17 +24,20 @@ bool TakeOption(int& argc, char** argv, const char* option) {
 
 }  // namespace
 
-// Measures the pieces, and then the whole apply beside the yardsticks. --ratios leaves the pieces
-// out, --pieces the yardsticks.
+// Measures the pieces, the whole apply beside the yardsticks, and the banner. --pieces, --ratios
+// and
+// --banner choose one of the three.
 int main(int argc, char** argv) {
   const bool onlyRatios = TakeOption(argc, argv, "--ratios");
   const bool onlyPieces = TakeOption(argc, argv, "--pieces");
+  const bool onlyBanner = TakeOption(argc, argv, "--banner");
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  if (!onlyRatios) benchmark::RunSpecifiedBenchmarks();
+  if (!onlyRatios && !onlyBanner) benchmark::RunSpecifiedBenchmarks();
   if (onlyPieces) return 0;
   try {
-    sifter::bench::PrintRatios(kRepetitions);
+    if (!onlyBanner) sifter::bench::PrintRatios(kRepetitions);
+    if (!onlyRatios) sifter::bench::PrintReapplying(kBannerRepetitions);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "bench_pieces: %s\n", error.what());
     return 1;

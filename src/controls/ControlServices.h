@@ -4,6 +4,7 @@
 #include "controls/DefaultDialog.h"
 #include "filterdialog/frmFilter.h"
 #include "subclass/WinProc.h"
+#include "subclass/WindowSystem.h"
 
 namespace sifter {
 
@@ -12,6 +13,7 @@ struct ControlServices {
   DialogServices dialog;
   AboutServices about;
   WinProc& winProc;
+  WindowSystem& windows;
   DefaultDialog& defaultDialog;
 };
 

@@ -9,11 +9,15 @@
 
 namespace sifter {
 
+// Whether a setting is written when it has the value that a bag without the entry gives.
+enum class Saved { kAlways, kUnlikeDefault };
+
 // How one setting of a control is kept in a property bag.
 template <class Control>
 struct PropertyRow {
   TextView writtenAs;
   TextView readAs;
+  Saved saved;
   std::optional<Value> byDefault;  // what a bag without the entry stands for
   Value (*get)(const Control&);
   void (*set)(Control&, const Value&);
@@ -28,13 +32,16 @@ enum class Saving {
   kUnlikeDefault,  // entries that a bag without them would give as well are left out
 };
 
-// Writes the settings in the order of the table. An error of the bag's ends it.
+// Writes the settings in the order of the table; one that is empty has nothing to write. An error
+// of the bag's ends it.
 template <class Control>
 void WriteProperties(PropertyTable<Control> table, const Control& control, PropertyBag& bag,
                      Saving saving) {
   for (const PropertyRow<Control>& row : table) {
     const Value value = row.get(control);
-    if (saving == Saving::kUnlikeDefault && row.byDefault && value == *row.byDefault) continue;
+    const bool leftOut = saving == Saving::kUnlikeDefault && row.saved == Saved::kUnlikeDefault &&
+                         row.byDefault && value == *row.byDefault;
+    if (value.IsEmpty() || leftOut) continue;
     bag.WriteProperty(row.writtenAs, value);
   }
 }

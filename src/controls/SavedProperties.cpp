@@ -22,9 +22,10 @@ enum class Kind : std::uint8_t {
   kDouble = 5,
   kDate = 6,
   kText = 7,
+  kBytes = 8,
 };
 
-RuntimeError InvalidFormat() { return RuntimeError(321, u"Invalid file format"_text); }
+[[noreturn]] void Refuse() { throw RuntimeError(321, u"Invalid file format"_text); }
 
 class Writer {
  public:
@@ -62,6 +63,10 @@ class Writer {
     } else if (const Text* text = value.As<Text>()) {
       Marked(Kind::kText);
       Units(*text);
+    } else if (const SavedBytes* bytes = BytesIn(value)) {
+      Marked(Kind::kBytes);
+      Number(static_cast<std::uint32_t>(bytes->Bytes().size()));
+      bytes_.insert(bytes_.end(), bytes->Bytes().begin(), bytes->Bytes().end());
     } else {
       throw RuntimeError(ErrorNumber::kTypeMismatch);
     }
@@ -70,6 +75,11 @@ class Writer {
   std::vector<std::byte> Take() { return std::move(bytes_); }
 
  private:
+  static const SavedBytes* BytesIn(const Value& value) {
+    const Ref<Object>* const object = value.As<Ref<Object>>();
+    return object == nullptr ? nullptr : dynamic_cast<const SavedBytes*>(object->Get());
+  }
+
   std::vector<std::byte> bytes_;
 };
 
@@ -88,7 +98,7 @@ class Reader {
   double Double() { return std::bit_cast<double>(Number<std::uint64_t>()); }
   Text Units() {
     const std::size_t length = Number<std::uint32_t>();
-    if (length > bytes_.size() / 2) throw InvalidFormat();
+    if (length > bytes_.size() / 2) Refuse();
     std::u16string units(length, u'\0');
     for (char16_t& unit : units) unit = static_cast<char16_t>(Number<std::uint16_t>());
     return Text(units);
@@ -112,13 +122,18 @@ class Reader {
         return Date{Double()};
       case Kind::kText:
         return Units();
+      case Kind::kBytes: {
+        const std::span<const std::byte> taken = Take(Number<std::uint32_t>());
+        const std::vector<std::byte> copy(taken.begin(), taken.end());
+        return Value(Ref<Object>(MakeRef<SavedBytes>(copy)));
+      }
     }
-    throw InvalidFormat();
+    Refuse();
   }
 
  private:
   std::span<const std::byte> Take(std::size_t count) {
-    if (count > bytes_.size()) throw InvalidFormat();
+    if (count > bytes_.size()) Refuse();
     const std::span<const std::byte> taken = bytes_.first(count);
     bytes_ = bytes_.subspan(count);
     return taken;
@@ -144,6 +159,10 @@ void SavedProperties::WriteProperty(TextView key, const Value& value) {
   entries_.emplace_back(key, value);
 }
 
+void SavedProperties::Change(const std::function<Value(const Value&)>& change) {
+  for (auto& [name, value] : entries_) value = change(value);
+}
+
 std::vector<std::byte> SavedProperties::ToBytes() const {
   Writer body;
   body.Number(static_cast<std::uint32_t>(entries_.size()));
@@ -163,8 +182,8 @@ std::vector<std::byte> SavedProperties::ToBytes() const {
 
 std::uint32_t SavedProperties::BodySize(std::span<const std::byte> head) {
   Reader reader(head);
-  if (reader.Number<std::uint32_t>() != kMark) throw InvalidFormat();
-  if (reader.Number<std::uint32_t>() != kVersion) throw InvalidFormat();
+  if (reader.Number<std::uint32_t>() != kMark) Refuse();
+  if (reader.Number<std::uint32_t>() != kVersion) Refuse();
   return reader.Number<std::uint32_t>();
 }
 

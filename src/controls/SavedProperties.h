@@ -1,14 +1,27 @@
 #pragma once
 
+#include "base/Ref.h"
 #include "controls/PropertyBag.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <utility>
 #include <vector>
 
 namespace sifter {
+
+// A setting that only its owner can read, such as a picture in the platform's own form.
+class SavedBytes final : public Object {
+ public:
+  explicit SavedBytes(std::vector<std::byte> bytes) : bytes_(std::move(bytes)) {}
+
+  std::span<const std::byte> Bytes() const { return bytes_; }
+
+ private:
+  std::vector<std::byte> bytes_;
+};
 
 // A control's settings in memory, in the order in which they were written, for containers that keep
 // bytes instead of named entries. The bytes are the same on every machine.
@@ -21,7 +34,11 @@ class SavedProperties final : public PropertyBag {
   // Another entry for a key that is there already takes its place.
   void WriteProperty(TextView key, const Value& value) override;
 
-  // Error 13 when an entry holds an object.
+  // Every entry becomes what `change` makes of it. An error of its comes out, with some of them
+  // changed.
+  void Change(const std::function<Value(const Value&)>& change);
+
+  // Error 13 when an entry holds an object other than SavedBytes.
   std::vector<std::byte> ToBytes() const;
 
   // How many bytes follow this head. Error 321 for bytes that no control has saved.

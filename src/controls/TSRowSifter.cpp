@@ -1,5 +1,6 @@
 #include "controls/TSRowSifter.h"
 
+#include "base/FlagScope.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "filterdialog/ReportErrors.h"
@@ -63,13 +64,7 @@ void TSRowSifter::ShowFilter() {
 // Boxes and the host's own code run inside it, also while the dialog isn't on the screen yet or not
 // any more but still moving rows. Another showing would take the half-copied list for the full one.
 void TSRowSifter::ShowDialog(const Ref<HostListView>& listview) {
-  struct Showing {
-    explicit Showing(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Showing() { flag_ = false; }
-    Showing(const Showing&) = delete;
-    Showing& operator=(const Showing&) = delete;
-    bool& flag_;
-  } showing(showing_);
+  const FlagScope showing(showing_);
   dialog_.lblCaption.SetCaption(filterMessage_);
   dialog_.SetCaption(filterCaption_);
   // The copies belong to the list that the dialog was prepared for; another one that happens to
@@ -137,14 +132,15 @@ struct TSRowSifterProperties {
   static PropertyTable<TSRowSifter> Table() {
     // Shared by every thread of the process, so its texts have to be immortal ones.
     static const PropertyRow<TSRowSifter> table[] = {
-        {u"Active", u"Active", false, GetActive, SetActive},
+        {u"Active", u"Active", Saved::kUnlikeDefault, false, GetActive, SetActive},
         // Read under a misspelt key on purpose. Forms saved by existing hosts load with this list
         // empty and set it at run time; the right spelling would make their old values come alive.
-        {u"ColumnsToExclude", u"ColumnsToExlude", Text(), Get<columns>, Set<columns>},
-        {u"Filter", u"Filter", Text(), Get<filter>, Set<filter>},
-        {u"FilterCaption", u"FilterCaption", u"Tarvenn Software Row Sifter"_text, Get<caption>,
-         Set<caption>},
-        {u"FilterMessage", u"FilterMessage",
+        {u"ColumnsToExclude", u"ColumnsToExlude", Saved::kUnlikeDefault, Text(), Get<columns>,
+         Set<columns>},
+        {u"Filter", u"Filter", Saved::kUnlikeDefault, Text(), Get<filter>, Set<filter>},
+        {u"FilterCaption", u"FilterCaption", Saved::kUnlikeDefault,
+         u"Tarvenn Software Row Sifter"_text, Get<caption>, Set<caption>},
+        {u"FilterMessage", u"FilterMessage", Saved::kUnlikeDefault,
          u"Please enter criteria to apply to your listview"_text, Get<message>, Set<message>},
     };
     return table;

@@ -72,7 +72,11 @@ bool frmFilter::ListviewsAreEqual(const Ref<HostListView>& first,
 void frmFilter::Apply() {
   RunAtWork([this] {
     Ensure(ListView1);
-    RefillAndFilter();
+    if (!RefillAndFilter()) {
+      blnFilterActive = false;
+      cmdHideFilter.SetValue(true);
+      return;
+    }
     Ensure(lvwCopyOfFiltered);
     CopyListview(UsersListview, lvwCopyOfFiltered);
     blnFilterActive = true;
@@ -86,22 +90,38 @@ void frmFilter::Apply() {
   });
 }
 
-// One long change for a list on the screen, which is painted once behind it.
-void frmFilter::RefillAndFilter() {
+// One long change for a list on the screen, which is painted once behind it. False when the full
+// copy was given up meanwhile, by a host that was told of its rows: rows that are taken out of the
+// list then could never come back.
+bool frmFilter::RefillAndFilter() {
   const UpdateScope update(UsersListview.Get());
-  CopyListview(ListView1, UsersListview);
+  if (BeforeRefill) BeforeRefill();
+  const Ref<ListViewDump> full = ListView1;
+  CopyListview(full, UsersListview);
+  if (BeforeFiltering) BeforeFiltering();
+  if (ListView1 != full) return false;
   ApplyCriteria();
+  return ListView1 == full;
 }
 
 void frmFilter::ApplyCriteria() {
   AbsorbErrors([this] {
     appliedCriteria_.clear();
     for (std::int32_t i = 0; i < columnCount_; ++i) appliedCriteria_.push_back(Criterion(i));
-    // A copy for this run: a notice of a removed row may lead to another apply.
-    const std::vector<FilterCriterion> criteria = appliedCriteria_;
-    RowMatcher(UsersListview, criteria, caseSensitive_, services_.conversions, columnCache_)
-        .ApplyCriteria();
+    appliedCaseSensitive_ = caseSensitive_;
+    MatchApplied(UsersListview);
   });
+}
+
+void frmFilter::MatchApplied(const Ref<HostListView>& list) {
+  // A copy for this run: a notice of a removed row may lead to another apply.
+  const std::vector<FilterCriterion> criteria = appliedCriteria_;
+  RowMatcher(list, criteria, appliedCaseSensitive_, services_.conversions, columnCache_)
+      .ApplyCriteria();
+}
+
+void frmFilter::ReapplyCriteria(const Ref<HostListView>& list) {
+  RunAtWork([this, list] { AbsorbErrors([&] { MatchApplied(list); }); });
 }
 
 // A second field that can be seen makes the criterion one of two values, whatever its operator is
@@ -148,8 +168,9 @@ void frmFilter::Reset() {
       cmdHideFilter.SetValue(true);
       return;
     }
-    ClearCriteria();
     Ensure(ListView1);
+    if (BeforeRefill) BeforeRefill();
+    ClearCriteria();
     CopyListview(ListView1, UsersListview);
     FilterString = Text();
   });
@@ -165,6 +186,7 @@ void frmFilter::ClearCriteria() {
     Ensure(lvwCopyOfFiltered);
     lvwCopyOfFiltered->ListItems()->Clear();
     lvwCopyOfFiltered->ColumnHeaders()->Clear();
+    ForgetCriteria();
     blnFilterActive = false;
     FilterPlainEnglish = Text();
     FilterString = Text();

@@ -74,6 +74,13 @@ class frmFilter final : public Form, private DialogFrame, private CriterionRows 
   // The extra button was pressed; the text starts empty and is the handler's to change.
   std::function<void(Text& parameter)> ExtraButtonClicked;
 
+  // The apply and the reset replace the host's rows by those of ListView1. These are called before
+  // that, with the host's list as it is by now, and on an apply again before the rows that fail
+  // are taken out: whoever showed the dialog can take over into ListView1 what the host has done
+  // to its list meanwhile.
+  std::function<void()> BeforeRefill;
+  std::function<void()> BeforeFiltering;
+
   // Fills the value list of a row (0-based) with the distinct values of its column in ListView1.
   // What the user has typed stays.
   void PopulateCriteriaComboBox(std::int16_t intColumnIndex);
@@ -103,8 +110,16 @@ class frmFilter final : public Form, private DialogFrame, private CriterionRows 
   // inside a message box say, find half-copied lists and have to wait.
   bool InWork() const { return working_ > 0; }
 
-  // The rows' criteria as they were at the last apply, whatever the user has changed since.
+  // The rows' criteria as they were at the last apply, whatever the user has changed since. None
+  // after ClearCriteria.
   const std::vector<FilterCriterion>& AppliedCriteria() const { return appliedCriteria_; }
+
+  // Takes the rows out of `list` that fail the criteria as last applied. Nothing else changes, and
+  // nothing is raised or shown.
+  void ReapplyCriteria(const Ref<HostListView>& list);
+
+  // There are no criteria any more that ReapplyCriteria could apply.
+  void ForgetCriteria() { appliedCriteria_.clear(); }
 
  private:
   // Runs a procedure of the dialog: with its trap, and marked as work on the lists if it is any.
@@ -119,8 +134,9 @@ class frmFilter final : public Form, private DialogFrame, private CriterionRows 
   void LayOut();
 
   void Apply();
-  void RefillAndFilter();
+  bool RefillAndFilter();
   void ApplyCriteria();
+  void MatchApplied(const Ref<HostListView>& list);
   void DescribeRow(std::int32_t i);
   Text BuildFilterFragment(TextView column, TextView operatorWord, TextView parameterText,
                            std::int32_t dataType);
@@ -136,6 +152,7 @@ class frmFilter final : public Form, private DialogFrame, private CriterionRows 
   bool caseSensitive_ = false;
   int working_ = 0;
   std::vector<FilterCriterion> appliedCriteria_;
+  bool appliedCaseSensitive_ = false;
   ColumnCache columnCache_;
 };
 

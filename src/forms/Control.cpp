@@ -34,19 +34,26 @@ void Control::RaiseClick() const {
   if (Click) Click();
 }
 
+template <class Tell>
+void ControlParent::TellWatchers(const Control& control, const Tell& tell) {
+  if (watcher_ != nullptr) tell(*watcher_);
+  if (timerWatcher_ != nullptr && control.Kind() == ControlKind::kTimer) tell(*timerWatcher_);
+}
+
 void ControlParent::Add(Control& control) {
   controls_.push_back(&control);
-  if (watcher_ != nullptr) watcher_->OnControlAdded(control);
+  TellWatchers(control, [&](ControlWatcher& watcher) { watcher.OnControlAdded(control); });
 }
 
 void ControlParent::Remove(Control& control) {
-  if (watcher_ != nullptr) watcher_->OnControlRemoved(control);
+  TellWatchers(control, [&](ControlWatcher& watcher) { watcher.OnControlRemoved(control); });
   Forget(control);
   std::erase(controls_, &control);
 }
 
 void ControlParent::Changed(Control& control, ControlProperty property) {
-  if (watcher_ != nullptr) watcher_->OnPropertyChanged(control, property);
+  TellWatchers(control,
+               [&](ControlWatcher& watcher) { watcher.OnPropertyChanged(control, property); });
 }
 
 }  // namespace sifter

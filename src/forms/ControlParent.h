@@ -29,6 +29,10 @@ class ControlParent {
   // At most one watcher; null for none. It is borrowed.
   void Watch(ControlWatcher* watcher) { watcher_ = watcher; }
 
+  // The timers are watched apart from the others, since their clock also runs while nothing is
+  // shown. At most one watcher; null for none. It is borrowed and hears of timers only.
+  void WatchTimers(ControlWatcher* watcher) { timerWatcher_ = watcher; }
+
  protected:
   virtual ~ControlParent() = default;
 
@@ -42,8 +46,12 @@ class ControlParent {
   void Remove(Control& control);
   void Changed(Control& control, ControlProperty property);
 
+  template <class Tell>
+  void TellWatchers(const Control& control, const Tell& tell);
+
   std::vector<Control*> controls_;
   ControlWatcher* watcher_ = nullptr;
+  ControlWatcher* timerWatcher_ = nullptr;
 };
 
 }  // namespace sifter

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/BorderStyle.h"
 #include "forms/Control.h"
 
 namespace sifter {
@@ -15,12 +16,29 @@ class Label final : public Control {
     Assign(caption_, std::move(caption), ControlProperty::kCaption);
   }
 
+  sifter::BorderStyle BorderStyle() const { return borderStyle_; }
+  void SetBorderStyle(sifter::BorderStyle style) {
+    Assign(borderStyle_, style, ControlProperty::kBorderStyle);
+  }
+
+  // The typeface and its size in points; the form's own font while the name is empty. To be set
+  // before the form is first shown.
+  const sifter::Text& FontName() const { return fontName_; }
+  double FontSize() const { return fontSize_; }
+  void SetFont(sifter::Text name, double points) {
+    fontName_ = std::move(name);
+    fontSize_ = points;
+  }
+
   // To be set before the form is first shown, or when the label is made.
   bool Draggable() const { return draggable_; }
   void SetDraggable(bool draggable) { draggable_ = draggable; }
 
  private:
   sifter::Text caption_;
+  sifter::BorderStyle borderStyle_ = sifter::BorderStyle::kNone;
+  sifter::Text fontName_;
+  double fontSize_ = 0;
   bool draggable_ = false;
 };
 

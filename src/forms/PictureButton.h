@@ -1,19 +1,25 @@
 #pragma once
 
 #include "forms/Control.h"
+#include "forms/Picture.h"
 
 namespace sifter {
 
-// A push button that shows a picture, told by its name.
+// A push button that shows a picture.
 class PictureButton final : public Control {
  public:
   PictureButton(ControlParent& parent, sifter::Text name)
       : Control(parent, ControlKind::kPictureButton, std::move(name), kNoIndex) {}
 
-  const sifter::Text& Picture() const { return picture_; }
-  void SetPicture(sifter::Text picture) {
+  const Ref<sifter::Picture>& Picture() const { return picture_; }
+  void SetPicture(Ref<sifter::Picture> picture) {
     Assign(picture_, std::move(picture), ControlProperty::kPicture);
   }
+
+  // What tools for people who can't see the picture call the button. Plain text, without mnemonics.
+  // To be set before its parent is first shown.
+  const sifter::Text& AccessibleName() const { return accessibleName_; }
+  void SetAccessibleName(sifter::Text name) { accessibleName_ = std::move(name); }
 
   // Setting True presses the button: Click is raised, and the button comes up again.
   void SetValue(bool pressed) {
@@ -21,7 +27,8 @@ class PictureButton final : public Control {
   }
 
  private:
-  sifter::Text picture_;
+  Ref<sifter::Picture> picture_;
+  sifter::Text accessibleName_;
 };
 
 }  // namespace sifter

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "forms/BorderStyle.h"
 #include "forms/Control.h"
 
 namespace sifter {
-
-enum class BorderStyle : std::int16_t { kNone = 0, kSingle = 1 };
 
 // A single line of text for the user to edit.
 class TextBox final : public Control {

@@ -29,6 +29,14 @@ class UserControl : public ControlParent {
     if (Changed) Changed();
   }
 
+  // Whether the control answers to the user.
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled) {
+    if (enabled_ == enabled) return;
+    enabled_ = enabled;
+    if (Changed) Changed();
+  }
+
   // Whether the host runs the form, as against designing it.
   bool UserMode() const { return userMode_; }
   void SetUserMode(bool userMode) {
@@ -37,10 +45,18 @@ class UserControl : public ControlParent {
     if (UserModeChanged) UserModeChanged();
   }
 
-  // Raised when the background has changed. Set by whoever shows the control.
+  // Raised when the background or the enabled state has changed. Set by whoever shows the control.
   std::function<void()> Changed;
 
+  // The control has given itself another size, which the host is to give it too.
+  std::function<void()> SizeWanted;
+
  protected:
+  void Grow(double width, double height) {
+    SetSize(width, height);
+    if (SizeWanted) SizeWanted();
+  }
+
   std::function<void()> Resize;
   std::function<void()> UserModeChanged;
 
@@ -48,6 +64,7 @@ class UserControl : public ControlParent {
   double width_ = 0;
   double height_ = 0;
   std::int32_t backColor_ = kButtonFace;
+  bool enabled_ = true;
   bool userMode_ = true;
 };
 

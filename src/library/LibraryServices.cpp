@@ -1,5 +1,7 @@
 #include "library/LibraryServices.h"
 
+#include "win32/Win32WindowSystem.h"
+
 #include <memory>
 
 namespace sifter {
@@ -14,6 +16,15 @@ LibraryServices* services = nullptr;
 LibraryServices& LibraryServices::Get() {
   if (services == nullptr) services = std::make_unique<LibraryServices>().release();
   return *services;
+}
+
+ControlServices LibraryServices::ForControl(FormHost& forms, Prompts& prompts) {
+  LibraryServices& shared = Get();
+  return {{forms, prompts, shared.conversions, shared.clock},
+          {forms, shared.version},
+          ProcessWinProc(),
+          ProcessWindows(),
+          shared.defaultDialog};
 }
 
 void LibraryServices::End() noexcept {

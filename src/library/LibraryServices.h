@@ -2,6 +2,7 @@
 
 #include "about/VersionInfo.h"
 #include "base/Clock.h"
+#include "controls/ControlServices.h"
 #include "controls/DefaultDialog.h"
 #include "win32/MessageBoxPrompts.h"
 #include "win32/ModuleVersionInfo.h"
@@ -20,6 +21,9 @@ struct LibraryServices {
   DefaultDialog defaultDialog{{forms, prompts, conversions, clock}};
 
   static LibraryServices& Get();
+
+  // What a control works with; the forms and message boxes are its own, in its container.
+  static ControlServices ForControl(FormHost& forms, Prompts& prompts);
 
   // With the library: nothing may be in use any more.
   static void End() noexcept;

@@ -1,7 +1,6 @@
 #include "library/TSRowSifterObject.h"
 
 #include "library/LibraryServices.h"
-#include "win32/Win32WindowSystem.h"
 
 #include <RowSifter.h>
 
@@ -12,14 +11,6 @@ namespace {
 constexpr DISPID kFilterActivated = 1;
 constexpr DISPID kFilterDeactivated = 2;
 
-ControlServices ServicesFor(FormHost& forms, Prompts& prompts) {
-  LibraryServices& shared = LibraryServices::Get();
-  return {{forms, prompts, shared.conversions, shared.clock},
-          {forms, shared.version},
-          ProcessWinProc(),
-          shared.defaultDialog};
-}
-
 }  // namespace
 
 ComRef<IUnknown> TSRowSifterObject::Create(const ControlClass& self, IUnknown* outer) {
@@ -29,7 +20,7 @@ ComRef<IUnknown> TSRowSifterObject::Create(const ControlClass& self, IUnknown* o
 TSRowSifterObject::TSRowSifterObject(const ControlClass& self, IUnknown* outer)
     : ControlFrame(self, outer),
       prompts_(*this, LibraryServices::Get().prompts),
-      sifter_(ServicesFor(forms_, prompts_)),
+      sifter_(LibraryServices::ForControl(forms_, prompts_)),
       dispatch_(sifter_, Identity()) {
   Offer(IID_IDispatch, dispatch_);
   Offer(__uuidof(_TSRowSifter), dispatch_);
@@ -37,7 +28,7 @@ TSRowSifterObject::TSRowSifterObject(const ControlClass& self, IUnknown* outer)
   sifter_.FilterDeactivated = [this] { Events().Raise(kFilterDeactivated); };
   sifter_.SettingChanged = [this] { SetDirty(true); };
   sifter_.PropertyChanged = [this](TextView name) { PropertyChanged(dispatch_.IdOf(name)); };
-  Shown().SetSize(HimetricToTwips(Extent().cx), HimetricToTwips(Extent().cy));
+  Begin();
 }
 
 TSRowSifterObject::~TSRowSifterObject() { End(); }

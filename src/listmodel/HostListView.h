@@ -1,10 +1,12 @@
 #pragma once
 
 #include "base/Ref.h"
+#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "base/Value.h"
 
 #include <cstdint>
+#include <functional>
 
 namespace sifter {
 
@@ -131,6 +133,16 @@ class HostListView : public Object {
   virtual void SetSortKey(const Value& column) = 0;
   virtual void SetSortOrder(const Value& order) = 0;
 
+  // Tells this list from others: two objects that stand for the same list have the same identity.
+  virtual const void* Identity() const { return this; }
+
+  // Gives the list the input focus. A list that has no such member raises error 438.
+  virtual void SetFocus() { throw RuntimeError(ErrorNumber::kMemberNotSupported); }
+
+  // Has `clicked` told of clicks on the headers of columns (by position from 1) for as long as the
+  // returned object lives. Null when the list doesn't tell.
+  virtual Ref<Object> WatchColumnClicks(std::function<void(std::int32_t column)> clicked);
+
   // Bracket a long change, so that a list on the screen can leave out painting in between. The
   // brackets nest. Both may be called on any list and never raise.
   virtual void BeginUpdate() noexcept {}
@@ -140,6 +152,10 @@ class HostListView : public Object {
   // through them gives the same state and the same notices as the members above.
   virtual SharedRows* Shared() { return nullptr; }
 };
+
+inline Ref<Object> HostListView::WatchColumnClicks(std::function<void(std::int32_t column)>) {
+  return nullptr;
+}
 
 // Brackets a long change of `list`, which may be null, until the end of the scope.
 class UpdateScope {

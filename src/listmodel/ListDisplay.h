@@ -47,6 +47,9 @@ class ListDisplay {
   // The width that a column has now, where the user may have changed the one it was given.
   virtual double ColumnWidth(std::int32_t position, double given) const = 0;
 
+  // Gives what shows the list the input focus.
+  virtual void SetFocus() {}
+
   virtual void BeginUpdate() noexcept = 0;
   virtual void EndUpdate() noexcept = 0;
 };

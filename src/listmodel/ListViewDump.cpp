@@ -119,6 +119,24 @@ void ListViewDump::AddItemToDump(ListItem& item) {
   });
 }
 
+void ListViewDump::AddRowToDump(const RowData& row) {
+  const std::int32_t columns = columnHeaders_->Count();
+  const auto cells = static_cast<std::size_t>(columns > 0 ? columns - 1 : 0);
+  RowPtr added = RowPtr::Share(&row);
+  while (added->CellCount() > cells) added = added.WithoutCell(added->CellCount());
+  while (added->CellCount() < cells)
+    added = added.WithNewCell(added->CellCount() + 1, 0);
+  RowStore& rows = listItems_->rows_;
+  try {
+    rows.Append(added);
+  } catch (const RuntimeError&) {  // the key is taken
+    const Text key = row.Extras().key;
+    added.Edit().EditExtras().key = Text();
+    rows.Append(std::move(added));
+    rows.HandleAt(rows.Count()).SetKey(key, false);
+  }
+}
+
 void ListViewDump::RemoveItemFromDump(ListItem& item) {
   AbsorbErrors([&] {
     if (item.ListSubItems()->Count() != columnHeaders_->Count() - 1) return;

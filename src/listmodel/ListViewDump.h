@@ -29,6 +29,10 @@ class ListViewDump final : public Object, private SharedRows {
   // it stands, and the row stays with what it got.
   void AddItemToDump(ListItem& item);
 
+  // Appends a row of another list as AddItemToDump appends a live one; it gets as many cells as
+  // this snapshot's rows have.
+  void AddRowToDump(const RowData& row);
+
   // Removes the first stored row that equals a live one: Key, Text, ToolTipText, Icon, SmallIcon
   // and Tag, and of every cell Key, Text, ReportIcon and Tag. How the row looks plays no part.
   // Nothing is removed when the live row's number of cells doesn't fit the snapshot's columns.

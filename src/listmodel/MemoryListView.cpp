@@ -156,6 +156,12 @@ void MemoryListView::ClearRows() {
   rows_.Clear();
 }
 
+// What nothing shows can't have the focus.
+void MemoryListView::SetFocus() {
+  if (!display_) throw RuntimeError(ErrorNumber::kMemberNotSupported);
+  display_->SetFocus();
+}
+
 void MemoryListView::BeginUpdate() noexcept {
   if (display_) display_->BeginUpdate();
 }

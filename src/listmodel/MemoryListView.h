@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Value.h"
+#include "listmodel/ColumnClicks.h"
 #include "listmodel/HostListView.h"
 #include "listmodel/ListDisplay.h"
 #include "listmodel/ListMessages.h"
@@ -55,9 +56,16 @@ class MemoryListView final : public HostListView, private SharedRows {
   void SetSorted(const Value& sorted) override;
   void SetSortKey(const Value& column) override;
   void SetSortOrder(const Value& order) override;
+  Ref<Object> WatchColumnClicks(std::function<void(std::int32_t column)> clicked) override {
+    return columnClicks_.Watch(std::move(clicked));
+  }
+  void SetFocus() override;
   void BeginUpdate() noexcept override;
   void EndUpdate() noexcept override;
   SharedRows* Shared() override { return this; }
+
+  // The user has clicked on the header of this column (1-based).
+  void ClickColumn(std::int32_t column) const { columnClicks_.Raise(column); }
 
   // A handle for whoever stands in for the list's window.
   void SetWindow(std::int32_t hWnd) { hWnd_ = hWnd; }
@@ -109,6 +117,7 @@ class MemoryListView final : public HostListView, private SharedRows {
   std::vector<Ref<MemoryColumn>> columns_;
   std::vector<ListObserver*> observers_;
   std::unique_ptr<ListDisplay> display_;
+  ColumnClicks columnClicks_;
   int notifying_ = 0;
   std::int32_t hWnd_ = 0;
   bool sorted_ = false;

@@ -25,6 +25,9 @@ class WindowSystem {
                                       std::uint32_t message, std::intptr_t wParam,
                                       std::intptr_t lParam) = 0;
 
+  // Gives a window the input focus. Nothing happens for one that doesn't exist.
+  virtual void SetFocus(std::int32_t window) = 0;
+
   // A window procedure that passes every message on to the WinProc over this port.
   virtual Procedure ReplacementProcedure() const = 0;
 };

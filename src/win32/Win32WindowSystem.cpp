@@ -43,14 +43,21 @@ std::intptr_t Win32WindowSystem::CallProcedure(Procedure procedure, std::int32_t
                          static_cast<WPARAM>(wParam), lParam);
 }
 
+void Win32WindowSystem::SetFocus(std::int32_t window) { ::SetFocus(HandleOf(window)); }
+
 WindowSystem::Procedure Win32WindowSystem::ReplacementProcedure() const {
   return reinterpret_cast<Procedure>(&Replacement);
 }
 
-WinProc& ProcessWinProc() {
-  // Never destroyed: windows may still have messages while the process ends.
+// Neither is ever destroyed: windows may still have messages while the process ends.
+
+WindowSystem& ProcessWindows() {
   static Win32WindowSystem* const windows = new Win32WindowSystem;
-  static WinProc* const table = new WinProc(*windows);
+  return *windows;
+}
+
+WinProc& ProcessWinProc() {
+  static WinProc* const table = new WinProc(ProcessWindows());
   return *table;
 }
 

@@ -16,8 +16,11 @@ class Win32WindowSystem final : public WindowSystem {
   void SetWindowProcedure(std::int32_t window, Procedure procedure) override;
   std::intptr_t CallProcedure(Procedure procedure, std::int32_t window, std::uint32_t message,
                               std::intptr_t wParam, std::intptr_t lParam) override;
+  void SetFocus(std::int32_t window) override;
   Procedure ReplacementProcedure() const override;
 };
+
+WindowSystem& ProcessWindows();
 
 // The one table of this process, on the thread of its user interface. While it counts a window, the
 // code of this module must stay loaded.

@@ -93,5 +93,46 @@ TEST(SavedProperties, TakeNoObjects) {
   EXPECT_EQ(ErrorOf([&] { saved.ToBytes(); }), "13: Type mismatch");
 }
 
+Bytes BytesIn(const Value& value) {
+  const Ref<Object>* const object = value.As<Ref<Object>>();
+  const auto* const bytes =
+      object == nullptr ? nullptr : dynamic_cast<const SavedBytes*>(object->Get());
+  if (bytes == nullptr) return {};
+  return {bytes->Bytes().begin(), bytes->Bytes().end()};
+}
+
+Value SavedBytesOf(const Bytes& bytes) { return Value(Ref<Object>(MakeRef<SavedBytes>(bytes))); }
+
+TEST(SavedProperties, KeepBytesAsTheyAre) {
+  const Bytes picture = {std::byte{0}, std::byte{255}, std::byte{'l'}};
+  SavedProperties saved;
+  saved.WriteProperty(u"Picture", SavedBytesOf(picture));
+  saved.WriteProperty(u"None", SavedBytesOf({}));
+  saved.WriteProperty(u"Filter", u"x");
+  SavedProperties read = FromBytes(saved.ToBytes());
+  EXPECT_EQ(BytesIn(read.ReadProperty(u"Picture")), picture);
+  EXPECT_TRUE(read.ReadProperty(u"None").Is<Ref<Object>>());
+  EXPECT_EQ(BytesIn(read.ReadProperty(u"None")), Bytes());
+  EXPECT_EQ(read.ReadProperty(u"Filter"), Value(u"x"));
+}
+
+TEST(SavedProperties, BytesThatEndEarlyAreRefused) {
+  SavedProperties saved;
+  saved.WriteProperty(u"Picture", SavedBytesOf({std::byte{1}, std::byte{2}}));
+  const Bytes whole = saved.ToBytes();
+  for (std::size_t size = SavedProperties::kHeadSize; size < whole.size(); ++size)
+    EXPECT_EQ(ErrorOf([&] { FromBytes(std::span(whole).first(size)); }), "321: Invalid file format")
+        << size;
+}
+
+TEST(SavedProperties, CanBeChangedEntryByEntry) {
+  SavedProperties saved;
+  saved.WriteProperty(u"a", 1);
+  saved.WriteProperty(u"b", u"x");
+  saved.Change([](const Value& value) { return value == Value(1) ? Value(2) : value; });
+  EXPECT_EQ(saved.ReadProperty(u"a"), Value(2));
+  EXPECT_EQ(saved.ReadProperty(u"b"), Value(u"x"));
+}
+
 }  // namespace
 }  // namespace sifter

@@ -14,14 +14,6 @@ class SifterMembers : public SifterOnAForm {
            Quoted(control.FilterMessage()) + " columns " + Quoted(control.ColumnsToExclude()) +
            '\n' + Dump(*list) + DumpForm(dialog) + DumpDialog(dialog);
   }
-
-  // Records when the reset button of a dialog is pressed, and lets it do its work.
-  void RecordReset(frmFilter& of, const std::string& name) {
-    of.cmdReset.Click = [this, name, pressed = of.cmdReset.Click] {
-      recorder.Line("reset of " + name);
-      pressed();
-    };
-  }
 };
 
 TEST_F(SifterMembers, StartAsNamed) {

@@ -13,6 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace sifter {
 
 namespace {
@@ -73,8 +76,9 @@ TEST_F(PictureButtonTest, ShowsAPictureAndCanBePressed) {
   PictureButton button(form, u"cmdFilter");
   button.Click = [&] { recorder.Line("click"); };
   recorder.Clear();
-  button.SetPicture(u"FilterFull");
-  button.SetPicture(u"FilterFull");
+  const Ref<Picture> full = MakeRef<Picture>(u"FilterFull");
+  button.SetPicture(full);
+  button.SetPicture(full);
   button.SetValue(true);
   button.SetValue(false);
   EXPECT_TRUE(recorder.Shows({"cmdFilter.Picture \"FilterFull\"", "click"}));
@@ -97,6 +101,51 @@ TEST_F(SmallControlsTest, CaptionsAnnounceTheirChanges) {
       "cmdApply.Caption \"&Apply\"",
       "chkCaseSensitive.Caption \"Match\"",
   }));
+}
+
+TEST_F(SmallControlsTest, ALabelsBorderAnnouncesItsChange) {
+  Label label(form, u"lblFrame");
+  EXPECT_EQ(label.BorderStyle(), BorderStyle::kNone);
+  recorder.Clear();
+  std::vector<ControlProperty> told;
+  struct Properties final : ControlWatcher {
+    explicit Properties(std::vector<ControlProperty>& list) : list_(list) {}
+    void OnControlAdded(Control&) override {}
+    void OnControlRemoved(Control&) override {}
+    void OnPropertyChanged(Control&, ControlProperty property) override {
+      list_.push_back(property);
+    }
+    std::vector<ControlProperty>& list_;
+  } properties(told);
+  form.Watch(&properties);
+  label.SetBorderStyle(BorderStyle::kSingle);
+  label.SetBorderStyle(BorderStyle::kSingle);
+  EXPECT_EQ(told, std::vector<ControlProperty>{ControlProperty::kBorderStyle});
+  form.Watch(&watcher);
+}
+
+TEST_F(TimerTest, ItsOwnWatcherHearsOfTimersOnly) {
+  struct Heard final : ControlWatcher {
+    void OnControlAdded(Control& control) override { Add("added ", control); }
+    void OnControlRemoved(Control&) override { list.push_back("removed"); }
+    void OnPropertyChanged(Control& control, ControlProperty) override { Add("changed ", control); }
+    void Add(const char* what, const Control& control) {
+      list.push_back(what + control.Name().ToUtf8());
+    }
+    std::vector<std::string> list;
+  } heard;
+  form.WatchTimers(&heard);
+  {
+    Label label(form, u"lblAnd");
+    label.SetCaption(u"and");
+    Timer timer(form, u"Timer1");
+    timer.SetInterval(50);
+    timer.SetEnabled(true);  // as it is
+    timer.SetEnabled(false);
+  }
+  EXPECT_EQ(heard.list, (std::vector<std::string>{"added Timer1", "changed Timer1",
+                                                  "changed Timer1", "removed"}));
+  form.WatchTimers(nullptr);
 }
 
 TEST_F(DatePickerTest, TheUsersDayKeepsTheTimeThatWasSet) {

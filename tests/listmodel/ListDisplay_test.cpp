@@ -80,6 +80,7 @@ class DisplayRecorder final : public ListDisplay {
   double ColumnWidth(std::int32_t, double given) const override {
     return width_ == 0 ? given : width_;
   }
+  void SetFocus() override { Line("focus"); }
   void BeginUpdate() noexcept override { Line("begin"); }
   void EndUpdate() noexcept override { Line("end"); }
 
@@ -218,6 +219,12 @@ TEST_F(ListDisplayTest, AColumnIsAsWideAsTheUserHasMadeIt) {
   EXPECT_EQ(column->Width(), Value(1440));
   display->DragWidthTo(777);
   EXPECT_EQ(column->Width(), Value(777));
+}
+
+TEST_F(ListDisplayTest, TheFocusIsItsToTake) {
+  list->SetFocus();
+  EXPECT_TRUE(recorder.Shows({"focus"}));
+  EXPECT_EQ(ErrorOf([&] { MakeList({"a"})->SetFocus(); }), kMissingMemberError);
 }
 
 TEST_F(ListDisplayTest, SortingTellsTheOldPositionsInTheirNewOrder) {

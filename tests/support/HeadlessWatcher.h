@@ -50,8 +50,9 @@ inline std::string ValueOf(const Control& control) {
 
 inline std::string PictureOf(const Control& control) {
   const auto* image = dynamic_cast<const Image*>(&control);
-  return Quoted(image != nullptr ? image->Picture()
-                                 : dynamic_cast<const PictureButton&>(control).Picture());
+  if (image != nullptr) return Quoted(image->Picture());
+  const Ref<Picture>& picture = dynamic_cast<const PictureButton&>(control).Picture();
+  return picture ? Quoted(picture->Key()) : "none";
 }
 
 inline std::string BackColorOf(const Control& control) {

@@ -64,6 +64,11 @@ class MemoryWindowSystem : public WindowSystem {
     return Run(procedure, window, message, wParam, lParam);
   }
 
+  void SetFocus(std::int32_t window) override {
+    if (IsOpen(window)) focus_ = window;
+  }
+  std::int32_t Focus() const { return focus_; }  // 0 as long as no window has got it
+
   Procedure ReplacementProcedure() const override { return kReplacement; }
 
  private:
@@ -76,6 +81,7 @@ class MemoryWindowSystem : public WindowSystem {
   std::map<Procedure, Handler> handlers_;
   std::map<std::int32_t, Procedure> windows_;
   std::int32_t lastWindow_ = 100;
+  std::int32_t focus_ = 0;
   WinProc watched_{*this};
 };
 

@@ -8,7 +8,7 @@
 
 namespace sifter {
 
-// Windows in memory that record what is done to their procedures:
+// Windows in memory that record what is done to their procedures and who gets the focus:
 //
 //   read procedure of 101
 //   101 gets the replacement
@@ -26,6 +26,11 @@ class RecordingWindows final : public MemoryWindowSystem {
     recorder_.Line(std::to_string(window) +
                    (procedure == kReplacement ? " gets the replacement" : " gets its own back"));
     MemoryWindowSystem::SetWindowProcedure(window, procedure);
+  }
+
+  void SetFocus(std::int32_t window) override {
+    recorder_.Line("focus to " + std::to_string(window));
+    MemoryWindowSystem::SetFocus(window);
   }
 
  private:
