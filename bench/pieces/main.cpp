@@ -24,8 +24,7 @@ bool TakeOption(int& argc, char** argv, const char* option) {
 
 }  // namespace
 
-// Measures the pieces, the whole apply beside the yardsticks, and the banner. --pieces, --ratios
-// and
+// Measures the pieces, the whole apply beside the yardsticks, and the banner. --pieces, --ratios and
 // --banner choose one of the three.
 int main(int argc, char** argv) {
   const bool onlyRatios = TakeOption(argc, argv, "--ratios");

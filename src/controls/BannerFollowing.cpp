@@ -2,9 +2,11 @@
 #include "base/FlagScope.h"
 #include "controls/BannerTexts.h"
 #include "controls/FollowList.h"
+#include "controls/Raise.h"
 #include "controls/TSLvwBannerFilter.h"
 #include "listmodel/ListMessages.h"
 
+#include <limits>
 #include <utility>
 
 // What the banner does while the host changes its list.
@@ -16,7 +18,7 @@ void TSLvwBannerFilter::OnMessage(std::uint32_t message, std::int32_t wParam) {
   if (message == kInsertColumn || message == kDeleteColumn) return ColumnsChanged();
   if (mDialogBusy || following_) return Overhear(message);
   if (message == kInsertItem) RowInserted();
-  if (message == kDeleteItem) RowDeleted(wParam + 1);
+  if (message == kDeleteItem) RowDeleted(wParam);
   if (message == kDeleteAllItems) ListCleared();
 }
 
@@ -52,15 +54,16 @@ void TSLvwBannerFilter::RowInserted() {
   lblDisplaying.SetCaption(CountCaption(count, count, mItemDescription));
 }
 
-// The row is still in the list.
-void TSLvwBannerFilter::RowDeleted(std::int32_t position) {
+// The row, told by its position from 0, is still in the list.
+void TSLvwBannerFilter::RowDeleted(std::int32_t row0) {
   if (!mActive) {
     const std::int32_t count = ListCount() - 1;
     lblDisplaying.SetCaption(CountCaption(count, count, mItemDescription));
     return;
   }
   const Ref<HostListView> list = mListview;
-  const Ref<ListItem> row = list->ListItems()->Item(position);
+  if (row0 == std::numeric_limits<std::int32_t>::max()) return;  // anybody can send messages
+  const Ref<ListItem> row = list->ListItems()->Item(row0 + 1);
   const Ref<ListViewDump> full = mfrmForm.ListView1;
   const Ref<ListViewDump> passed = mfrmForm.lvwCopyOfFiltered;
   if (!HasCopyOfAnother(list)) ForgetRow(*row, *passed, *full);
@@ -79,10 +82,12 @@ void TSLvwBannerFilter::ListCleared() {
   lblDisplaying.SetCaption(CountCaption(0, full, mItemDescription));
 }
 
+// Also while the dialog is open or at work, unlike the notices of rows: the criteria and both
+// copies are made for the columns that were.
 void TSLvwBannerFilter::ColumnsChanged() {
-  if (!mActive || following_) return;
+  if (!mActive) return;
   Deactivate();
-  if (FilterDeactivated) FilterDeactivated();
+  Raise(FilterDeactivated);
 }
 
 // Takes the host's changes over into the dialog's copies and, unless the list mustn't be touched,
@@ -97,12 +102,17 @@ void TSLvwBannerFilter::FollowHost(Filtering filtering) {
   // A host that is asked for its rows may have the copies replaced.
   const Ref<ListViewDump> full = mfrmForm.ListView1;
   const Ref<ListViewDump> passed = mfrmForm.lvwCopyOfFiltered;
-  const Copies copies = std::exchange(hostChanged_, false) ? Copies::kDoubtful : Copies::kInStep;
-  // Without hidden rows there is no doubt about what the full copy ought to hold.
-  if (HasFullCopy(list) && !mfrmForm.blnFilterActive)
-    TakeRows(*list, *full);
-  else
-    FollowList(*list, *passed, *full, copies);
+  const bool doubtful = std::exchange(hostChanged_, false);
+  try {
+    // Without hidden rows there is no doubt about what the full copy ought to hold.
+    if (HasFullCopy(list) && !mfrmForm.blnFilterActive)
+      TakeRows(*list, *full);
+    else
+      FollowList(*list, *passed, *full, doubtful ? Copies::kDoubtful : Copies::kInStep);
+  } catch (...) {
+    if (doubtful) hostChanged_ = true;
+    throw;
+  }
   if (filtering == Filtering::kAgain && HasFullCopy(list)) mfrmForm.ReapplyCriteria(list);
   if (mfrmForm.ListView1 != full) return;  // given up by a host that was told of a row
   mfrmForm.CopyListview(list, mfrmForm.lvwCopyOfFiltered);
@@ -118,7 +128,7 @@ void TSLvwBannerFilter::TakeOverChanges() {
   rowsOverheard_ = 0;
   const Ref<HostListView> list = mfrmForm.UsersListview;
   if (!list) return;
-  AbsorbErrors([&] {
+  const bool taken = AbsorbErrors([&] {
     const Ref<ListViewDump> full = mfrmForm.ListView1;
     if (mfrmForm.blnFilterActive) {
       // Rows can have been added without a notice, when the window wasn't watched.
@@ -129,7 +139,7 @@ void TSLvwBannerFilter::TakeOverChanges() {
       TakeRows(*list, *full);
     }
   });
-  hostChanged_ = false;
+  if (taken) hostChanged_ = false;
 }
 
 // Rows that the host has added on being told of ours. The filter may be about to take them out.
@@ -144,18 +154,22 @@ void TSLvwBannerFilter::TakeOverAdditions() {
   });
 }
 
-// Each step is tried, whatever became of the one before.
+// Each step is tried, whatever became of the one before. Without a row to look at the timer goes
+// on: only what ends the filter or the watching stops it, and hosts see the ticks end with that.
 void TSLvwBannerFilter::Tick() {
   // A half-copied list would be taken for the host's doing; the next tick comes soon.
   if (!mRowsInsertedWhileActive || AtWork()) return;
   if (mActive && mListview) {
     AbsorbErrors([this] { FollowHost(Filtering::kAgain); });
-    AbsorbErrors([this] { ShowCounts(); });
+    AbsorbErrors([this] {
+      if (mActive && mListview) ShowCounts();
+    });
   }
   Timer1.SetEnabled(false);
   mRowsInsertedWhileActive = false;
   // Rows that the host has added on being told of those that went are left for the next tick.
-  if (mActive && mListview && hostChanged_) RowInserted();
+  const Ref<HostListView> list = mListview;
+  if (mActive && list && hostChanged_ && !HasCopyOfAnother(list)) RowInserted();
 }
 
 // The copies of a dialog on the screen must not be emptied under it: its buttons would put the

@@ -3,6 +3,7 @@
 #include "base/Integers.h"
 #include "base/RuntimeError.h"
 #include "controls/BannerTexts.h"
+#include "controls/Raise.h"
 #include "controls/TSLvwBannerFilter.h"
 #include "matching/ColumnDataType.h"
 
@@ -24,20 +25,31 @@ void TSLvwBannerFilter::ShowFilter(bool ShowModal) {
   if (list->ListItems()->Count() == 0 && !InForce()) return;
   if (mListview != list) return;
   const bool busyBefore = std::exchange(mDialogBusy, true);
+  const int endings = endings_;
   try {
-    if (!PrepareDialog(list)) {
-      mDialogBusy = busyBefore;
-      return;
-    }
+    if (!PrepareDialog(list)) return LeaveUnshown(busyBefore);
+    // Busy from now on: a host that shows it so has chosen to be left alone until it shows it
+    // modally.
     if (!ShowModal) return mfrmForm.Show(ShowMode::kModeless);
     ShowModally();
   } catch (...) {
-    mDialogBusy = busyBefore;
+    LeaveUnshown(busyBefore);
     throw;
   }
-  if (terminated_) return;
+  if (endings != endings_) return ForgetShowing();
   WindUp();
   TakeTexts();
+}
+
+void TSLvwBannerFilter::LeaveUnshown(bool busyBefore) {
+  mDialogBusy = busyBefore;
+  if (!mfrmForm.Visible()) mfrmForm.UsersListview = nullptr;
+}
+
+// The host has taken the control down under the dialog; nobody is told of its outcome.
+void TSLvwBannerFilter::ForgetShowing() {
+  mDialogBusy = false;
+  mfrmForm.UsersListview = nullptr;
 }
 
 void TSLvwBannerFilter::ShowModally() {
@@ -56,6 +68,7 @@ bool TSLvwBannerFilter::PrepareDialog(const Ref<HostListView>& list) {
   mfrmForm.cmdReport.SetCaption(mExtraButtonCaption);
   mfrmForm.UsersListview = list;
   if (!InForce() || !HasFullCopy(list)) return StartAfresh(list);
+  // The flag stays for the next tick: the host may be in the middle of adding rows.
   if (mRowsInsertedWhileActive) FollowHost(Filtering::kAgain);
   return HasFullCopy(list) && !terminated_;
 }
@@ -66,14 +79,15 @@ bool TSLvwBannerFilter::HasFullCopy(const Ref<HostListView>& list) const {
   return copiedList_ == list->Identity() && copiedWindow_ == LVHook.hWnd();
 }
 
-// As long as the dialog isn't made ready for the list that is attached now, its copies are kept as
-// they are: the list that they were made of may be attached again.
+// Until the dialog is made ready for the list that is attached now, its copies are kept as they
+// are: the list that they were made of may be attached again.
 bool TSLvwBannerFilter::HasCopyOfAnother(const Ref<HostListView>& list) const {
   return copiedList_ != nullptr && !HasFullCopy(list);
 }
 
 bool TSLvwBannerFilter::StartAfresh(const Ref<HostListView>& list) {
   const Ref<ListViewDump> full = mfrmForm.ListView1;
+  copiedList_ = nullptr;
   mfrmForm.ClearCriteria();
   full->ColumnHeaders()->Clear();
   mfrmForm.CopyListview(full, mfrmForm.lvwCopyOfFiltered);
@@ -88,13 +102,14 @@ bool TSLvwBannerFilter::StartAfresh(const Ref<HostListView>& list) {
 }
 
 // A showing has ended. Handlers of the event see Active, Filter and the list view as they were
-// before it; they may detach the list and show the dialog again.
+// before it, as hosts have come to expect: what they read then is what has just ended. They may
+// detach the list and show the dialog again; one that is up then keeps what it needs.
 void TSLvwBannerFilter::WindUp() {
+  if (terminated_) return ForgetShowing();
   struct Ending {
     explicit Ending(TSLvwBannerFilter& banner) : banner_(banner) {}
     ~Ending() {
-      banner_.mDialogBusy = false;
-      banner_.mfrmForm.UsersListview = nullptr;
+      if (!banner_.mfrmForm.Visible()) banner_.ForgetShowing();
     }
     Ending(const Ending&) = delete;
     Ending& operator=(const Ending&) = delete;
@@ -109,7 +124,7 @@ void TSLvwBannerFilter::WindUp() {
     throw;
   }
   SetInForce(mfrmForm.blnFilterActive);
-  mDialogBusy = false;
+  if (!mfrmForm.Visible()) mDialogBusy = false;
   GiveListFocus();
 }
 
@@ -118,8 +133,8 @@ void TSLvwBannerFilter::ShowOutcome(bool filtered) {
   ShowPicture(filtered ? u"FilterFull" : u"FilterEmpty");
   if (mListview) ShowCounts();
   cmdFilter.SetToolTipText(filtered ? kFilteredToolTip : kUnfilteredToolTip);
-  const auto raise = filtered ? FilterActivated : FilterDeactivated;
-  if (raise) raise();
+  // Also when nothing was filtered before: hosts take either event for the end of the showing.
+  Raise(filtered ? FilterActivated : FilterDeactivated);
 }
 
 // Lists needn't have the member; the window has the focus all the same then.
@@ -140,7 +155,7 @@ void TSLvwBannerFilter::TakeTexts() {
 }
 
 void TSLvwBannerFilter::ApplyFilter(const Text& Filter) {
-  if (Filter.IsEmpty()) return;
+  if (Filter.IsEmpty() || terminated_) return;
   // In the middle of the dialog's own work its rows are half made, and so are its copies.
   if (AtWork()) return ResetFilter();
   try {

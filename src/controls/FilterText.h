@@ -25,7 +25,8 @@ RuntimeError BadFilterText();
 //   column ".." operator number "1==" first parameter "2==" second parameter "*?"
 // and the first "..", "1==" and "2==" count. "*?" ends a criterion wherever it stands, inside a
 // parameter too. Without "2==" everything behind "1==" is the first parameter. Nothing is read of
-// a text of one character, or of a single character behind the last "*?".
+// a text of one character, or of a single character behind the last "*?". Hosts have such texts
+// stored, and they have to go on meaning what they meant.
 //
 // Error BadFilterText when a criterion lacks its "*?", ".." or "1==".
 std::vector<TextCriterion> ParseFilterText(TextView text);

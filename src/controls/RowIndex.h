@@ -10,7 +10,8 @@
 namespace sifter {
 
 // Whether a row of one of our lists equals a row of another one, as modPLC2 compares them: `given`
-// may have more cells than `listed`, whose cells count.
+// may have more cells than `listed`, whose cells count. Only an icon that is Null, which equals
+// nothing there, equals another one here: such a row would be taken for a new one again and again.
 bool SameRow(const RowData& given, const RowData& listed);
 
 // Finds rows in a snapshot by their content, with the results of modPLC2::PositionOf but without

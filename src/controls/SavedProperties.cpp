@@ -13,6 +13,9 @@ namespace {
 constexpr std::uint32_t kMark = 0x53525354;
 constexpr std::uint32_t kVersion = 1;
 
+// No control has as many settings.
+constexpr std::uint32_t kMostEntries = 256;
+
 enum class Kind : std::uint8_t {
   kEmpty = 0,
   kNull = 1,
@@ -190,7 +193,9 @@ std::uint32_t SavedProperties::BodySize(std::span<const std::byte> head) {
 SavedProperties SavedProperties::FromBody(std::span<const std::byte> body) {
   Reader reader(body);
   SavedProperties saved;
-  for (std::uint32_t left = reader.Number<std::uint32_t>(); left > 0; --left) {
+  const auto count = reader.Number<std::uint32_t>();
+  if (count > kMostEntries) Refuse();
+  for (std::uint32_t left = count; left > 0; --left) {
     const Text key = reader.Units();
     saved.WriteProperty(key, reader.Item());
   }

@@ -5,6 +5,7 @@
 #include "base/Integers.h"
 #include "base/RuntimeError.h"
 #include "controls/BannerTexts.h"
+#include "controls/Raise.h"
 #include "filterdialog/ReportErrors.h"
 #include "listmodel/ListMessages.h"
 
@@ -69,7 +70,7 @@ void TSLvwBannerFilter::Wire() {
   };
   cmdExtraButton.Click = [this] {
     Text parameter;
-    if (mListview && ExtraButtonClicked) ExtraButtonClicked(parameter);
+    if (UserMode() && mListview) Raise(ExtraButtonClicked, parameter);
   };
   LVHook.WndProc = [this](std::uint32_t message, std::int32_t wParam, std::int32_t, std::int32_t&) {
     Notice([&] { OnMessage(message, wParam); });
@@ -93,23 +94,21 @@ void TSLvwBannerFilter::Notice(const std::function<void()>& work) const {
 }
 
 void TSLvwBannerFilter::WireDialog() {
-  mfrmForm.ExtraButtonClicked = [this](Text& parameter) {
-    if (ExtraButtonClicked) ExtraButtonClicked(parameter);
-  };
+  mfrmForm.ExtraButtonClicked = [this](Text& parameter) { Raise(ExtraButtonClicked, parameter); };
   mfrmForm.BeforeRefill = [this] { TakeOverChanges(); };
   mfrmForm.BeforeFiltering = [this] { TakeOverAdditions(); };
 }
 
 void TSLvwBannerFilter::Terminate() {
   if (std::exchange(terminated_, true)) return;
+  ++endings_;
   mfrmForm.Hide();
+  if (!AtWork()) ForgetShowing();
   ReleaseListview();
   LVHook.SethWnd(0);
 }
 
-void TSLvwBannerFilter::Report(TextView property) const {
-  if (PropertyChanged) PropertyChanged(property);
-}
+void TSLvwBannerFilter::Report(TextView property) const { Raise(PropertyChanged, property); }
 
 void TSLvwBannerFilter::SetEnabled(bool enabled) {
   UserControl::SetEnabled(enabled);
@@ -134,6 +133,8 @@ void TSLvwBannerFilter::SetBannerButtonPicture(Ref<Picture> picture) {
   cmdExtraButton.SetPicture(mBannerButtonPicture);
 }
 
+// The window stays watched, and the caption as it is: hosts let go of a list so that it can end,
+// and attach it or another one later.
 void TSLvwBannerFilter::ReleaseListview() {
   hostChanged_ = true;
   mListview = nullptr;
@@ -141,6 +142,8 @@ void TSLvwBannerFilter::ReleaseListview() {
   Timer1.SetEnabled(false);
 }
 
+// Active and the tool tip stay as they are. Hosts take a list off and put it on again, to have it
+// watched anew, and find the filter where they left it.
 void TSLvwBannerFilter::SetListview(Ref<HostListView> listview) {
   if (!listview) {
     ReleaseListview();
@@ -174,6 +177,8 @@ void TSLvwBannerFilter::Hook(const Ref<HostListView>& listview) {
   if (mListview == listview) columnClicks_ = clicks;
 }
 
+// The value is kept whatever the user has decided in the dialog. Hosts read back what they have
+// written; the event tells them how it ended.
 void TSLvwBannerFilter::SetActive(bool active) {
   if (active != mActive) {
     if (active) {
@@ -187,7 +192,7 @@ void TSLvwBannerFilter::SetActive(bool active) {
 }
 
 void TSLvwBannerFilter::SetInForce(bool active) {
-  if (std::exchange(mActive, active) != active && SettingChanged) SettingChanged();
+  if (std::exchange(mActive, active) != active) Raise(SettingChanged);
 }
 
 Text TSLvwBannerFilter::ListOfTags() const {
@@ -226,8 +231,7 @@ std::int32_t TSLvwBannerFilter::ListCount() const {
 // The full count is a 16-bit one.
 void TSLvwBannerFilter::ShowCounts() {
   const std::int32_t shown = ListCount();
-  const std::int16_t full =
-      mfrmForm.ListView1 ? ToInt16(mfrmForm.ListView1->ListItems()->Count()) : 0;
+  const std::int16_t full = ToInt16(mfrmForm.ListView1->ListItems()->Count());
   lblDisplaying.SetCaption(CountCaption(shown, full, mItemDescription));
 }
 

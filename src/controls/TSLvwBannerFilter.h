@@ -55,7 +55,8 @@ class TSLvwBannerFilter final : public UserControl {
   // Modeless: returns at once; Active, Filter and the caption don't follow what the user does
   // then, and the control ignores what happens to the rows until a modal showing has ended.
   // Nothing happens without a list, or on an empty one as long as no filter is in force. Error 400
-  // while the dialog is shown modally.
+  // while the dialog is shown modally, is being made ready or is at work on the list; a modeless
+  // showing is left out then.
   void ShowFilter(bool ShowModal);
 
   // Forgets the filter; the rows that it took out don't come back.
@@ -151,7 +152,7 @@ class TSLvwBannerFilter final : public UserControl {
   void OnMessage(std::uint32_t message, std::int32_t wParam);
   void Overhear(std::uint32_t message);
   void RowInserted();
-  void RowDeleted(std::int32_t position);
+  void RowDeleted(std::int32_t row0);
   void ListCleared();
   void ColumnsChanged();
   void Tick();
@@ -171,6 +172,8 @@ class TSLvwBannerFilter final : public UserControl {
   bool PrepareDialog(const Ref<HostListView>& list);
   bool StartAfresh(const Ref<HostListView>& list);
   void ShowModally();
+  void LeaveUnshown(bool busyBefore);
+  void ForgetShowing();
   void WindUp();
   void TakeTexts();
   void ShowOutcome(bool filtered);
@@ -209,6 +212,7 @@ class TSLvwBannerFilter final : public UserControl {
   bool hostChanged_ = false;        // rows came or went, or may have, while nobody looked
   std::int32_t rowsOverheard_ = 0;  // put into the list while notices were ignored
   bool terminated_ = false;
+  int endings_ = 0;  // how many times the host has taken the control down
   // The list that the dialog's full copy was made of: its identity and its window.
   const void* copiedList_ = nullptr;
   std::int32_t copiedWindow_ = 0;

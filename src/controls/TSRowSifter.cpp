@@ -3,6 +3,7 @@
 #include "base/FlagScope.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "controls/Raise.h"
 #include "filterdialog/ReportErrors.h"
 #include "listmodel/ListMessages.h"
 
@@ -56,9 +57,8 @@ void TSRowSifter::ShowFilter() {
   if (listview->ListItems()->Count() == 0 && !active_) return;
   ShowDialog(listview);
   const bool active = dialog_.blnFilterActive;
-  const auto raise = active ? FilterActivated : FilterDeactivated;
-  if (raise) raise();
-  if (std::exchange(active_, active) != active && SettingChanged) SettingChanged();
+  Raise(active ? FilterActivated : FilterDeactivated);
+  if (std::exchange(active_, active) != active) Raise(SettingChanged);
 }
 
 // Boxes and the host's own code run inside it, also while the dialog isn't on the screen yet or not
@@ -106,7 +106,7 @@ void TSRowSifter::SetActive(bool active) {
 void TSRowSifter::Assign(Text& field, Text value, TextView property) {
   if (field == value) return;
   field = std::move(value);
-  if (PropertyChanged) PropertyChanged(property);
+  Raise(PropertyChanged, property);
 }
 
 struct TSRowSifterProperties {

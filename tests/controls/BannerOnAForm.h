@@ -50,6 +50,12 @@ class BannerOnAForm : public ControlOnAForm<TSLvwBannerFilter> {
     Filter(u"Oak");
   }
 
+  // How many lines of the recording start like this.
+  std::ptrdiff_t Recorded(const std::string& start) const {
+    return std::count_if(recorder.Lines().begin(), recorder.Lines().end(),
+                         [&start](const std::string& line) { return line.starts_with(start); });
+  }
+
   // 50 milliseconds pass.
   void Tick() { control.Timer1.Elapse(); }
 

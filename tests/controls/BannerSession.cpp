@@ -128,10 +128,11 @@ Ref<ListItem> BannerSession::RowAt(int number) {
 // What the clock and the user do
 
 void BannerSession::Tick() {
-  const bool follows = world_->control->Timer1.Enabled() && inserted_ && attached_;
+  const bool follows = world_->control->Timer1.Enabled() && inserted_;
   world_->Tick();
   if (!follows) return;
-  inserted_ = false;
+  inserted_ = false;  // over another list as well, which isn't followed
+  if (!attached_) return;
   if (Active()) ledger_.NothingReturns();
   CheckShown();
 }

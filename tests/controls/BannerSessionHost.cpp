@@ -142,7 +142,7 @@ void BannerSession::ChangeOtherList(int how) {
   if (how % 5 == 0) rows->Clear();
   if (how % 2 == 0) AddRow(*world_->otherList, {"Ash", "5", ""});
   if (how % 3 == 0 && rows->Count() > 0) rows->Remove(1);
-  if (how % 7 < 3) world_->Tick();
+  if (how % 7 < 3) Tick();
 }
 
 }  // namespace sifter

@@ -125,6 +125,14 @@ TEST(SavedProperties, BytesThatEndEarlyAreRefused) {
         << size;
 }
 
+TEST(SavedProperties, MoreThanAControlCanHaveAreRefused) {
+  SavedProperties most;
+  for (std::int64_t i = 0; i < 256; ++i) most.WriteProperty(IntegerToText(i), true);
+  EXPECT_EQ(FromBytes(most.ToBytes()).ReadProperty(u"255"), Value(true));
+  most.WriteProperty(u"256", true);
+  EXPECT_EQ(ErrorOf([&] { FromBytes(most.ToBytes()); }), "321: Invalid file format");
+}
+
 TEST(SavedProperties, CanBeChangedEntryByEntry) {
   SavedProperties saved;
   saved.WriteProperty(u"a", 1);

@@ -6,14 +6,7 @@ namespace sifter {
 namespace {
 
 // When the banner filters again: 50 milliseconds after the first of the rows that the host adds.
-class BannerTimer : public BannerOnAForm {
- protected:
-  // How many lines of the recording start like this.
-  std::ptrdiff_t Recorded(const std::string& start) const {
-    return std::count_if(recorder.Lines().begin(), recorder.Lines().end(),
-                         [&start](const std::string& line) { return line.starts_with(start); });
-  }
-};
+class BannerTimer : public BannerOnAForm {};
 
 const char* const kTimerOn = "Timer1.Enabled True";
 const char* const kTimerOff = "Timer1.Enabled False";
