@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
-"""Draws the picture of the filter button for hosts' toolboxes: three rows above a funnel.
+"""Draws the pictures of the controls for hosts' toolboxes.
 
-Usage: make_toolbox_bitmap.py src/library/TSRowSifter.bmp
+Usage: make_toolbox_bitmap.py src/library
 16 by 16 pixels in 16 colours, as every host can show it; light grey stands for "see-through".
 """
 import struct
 import sys
 
-PICTURE = """
+# Three rows above a funnel.
+BUTTON = """
 ................
 .nnnnnnnnnnnnnn.
 .nwwwwwwwwwwwwn.
@@ -24,6 +25,26 @@ PICTURE = """
 ......kyyk......
 ......kyyk......
 ......kkkk......
+"""
+
+# A strip with a text and a small funnel above three rows.
+BANNER = """
+................
+nnnnnnnnnnnnnnnn
+nwwwwwwwwwwwwwwn
+nwbbbbbbwwkkkkkn
+nwwwwwwwwwwkykwn
+nwbbbbwwwwwkykwn
+nwwwwwwwwwwwkwwn
+nnnnnnnnnnnnnnnn
+.n............n.
+.nwwwwwwwwwwwwn.
+.nwbbbbwbbbbbwn.
+.nwwwwwwwwwwwwn.
+.nwbbbbwbbbbbwn.
+.nwwwwwwwwwwwwn.
+.nwbbbbwbbbbbwn.
+.nnnnnnnnnnnnnn.
 """
 
 # Of the sixteen colours of the system's palette, as blue, green, red.
@@ -52,5 +73,6 @@ def bitmap(picture):
     return struct.pack("<2sIHHI", b"BM", start + len(bits), 0, 0, start) + head + palette + bits
 
 
-with open(sys.argv[1], "wb") as out:
-    out.write(bitmap(PICTURE))
+for name, picture in (("TSRowSifter", BUTTON), ("TSLvwBannerFilter", BANNER)):
+    with open(f"{sys.argv[1]}/{name}.bmp", "wb") as out:
+        out.write(bitmap(picture))

@@ -15,7 +15,8 @@
 // The object has the members of the list model, which any script can use as well. Names are found
 // whatever the case of their letters; positions count from 1; arguments may be given by name:
 //
-//   list            ColumnHeaders, ListItems, hWnd, Sorted, SortKey, SortOrder
+//   list            ColumnHeaders, ListItems, hWnd, Sorted, SortKey, SortOrder, SetFocus,
+//                   event ColumnClick(ColumnHeader)
 //   ColumnHeaders   Item(Index), Count, Add([Index], [Key], [Text], [Width], [Alignment], [Icon]),
 //                   Clear, For Each
 //     a column      Index, Key, Text, Width, Alignment, Icon, Tag
@@ -39,6 +40,8 @@
 //   system's window text.
 // - SortKey is the 0-based column that Sorted = True sorts by, by character code; SortOrder is 0
 //   ascending, 1 descending. Rows that are added later go where they belong.
+// - SetFocus gives the window the input focus. ColumnClick comes behind the parent's own handling of
+//   LVN_COLUMNCLICK, with the column; sinks are found and connected like those of a control.
 // - Errors: 5 unknown key, 9 unknown position, 13 wrong type, 457 key taken, as result codes
 //   0x800A0000 + number with their descriptions.
 //

@@ -1,7 +1,7 @@
 #include "library/ConnectionPointsPart.h"
 
-#include "library/ComEnum.h"
 #include "library/ControlFrame.h"
+#include "win32/ComEnum.h"
 
 #include <olectl.h>
 

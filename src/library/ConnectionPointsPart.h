@@ -1,7 +1,7 @@
 #pragma once
 
-#include "library/ConnectionPoint.h"
 #include "library/FramePart.h"
+#include "win32/ConnectionPoint.h"
 
 #include <ocidl.h>
 

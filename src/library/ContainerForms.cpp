@@ -31,10 +31,7 @@ void ContainerFormHost::ShowModal(Form& form) {
   windows_.ShowModal(form);
 }
 
-void ContainerFormHost::ShowModeless(Form& form) {
-  FindOwner();
-  windows_.ShowModeless(form);
-}
+void ContainerFormHost::ShowModeless(Form& form) { windows_.ShowModeless(form); }
 
 void ContainerPrompts::Show(const Text& text, const Text& title, PromptIcon icon) {
   const ModalBlock block(frame_);

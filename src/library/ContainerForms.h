@@ -27,8 +27,8 @@ class ModalBlock {
   ComRef<IOleInPlaceFrame> hostFrame_;  // null in an inner block, and when there is none
 };
 
-// Shows a control's forms: owned by the top-level window that the control stands in, or else by the
-// active one.
+// Shows a control's forms: modal ones owned by the top-level window that the control stands in, or
+// else by the active one; modeless ones owned by nobody.
 class ContainerFormHost final : public FormHost {
  public:
   explicit ContainerFormHost(ControlFrame& frame) : frame_(frame) {}

@@ -1,4 +1,5 @@
 #include "library/ControlClass.h"
+#include "library/TSLvwBannerFilterObject.h"
 #include "library/TSRowSifterObject.h"
 
 #include <RowSifter.h>
@@ -16,6 +17,8 @@ constexpr DWORD kWindowedControl = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKI
 const ControlClass kClasses[] = {
     {&__uuidof(::TSRowSifter), &__uuidof(_TSRowSifter), &__uuidof(__TSRowSifter), L"TSRowSifter",
      kWindowedControl | OLEMISC_ACTSLIKEBUTTON, 101, &TSRowSifterObject::Create},
+    {&__uuidof(::TSLvwBannerFilter), &__uuidof(_TSLvwBannerFilter), &__uuidof(__TSLvwBannerFilter),
+     L"TSLvwBannerFilter", kWindowedControl, 102, &TSLvwBannerFilterObject::Create},
 };
 
 }  // namespace

@@ -41,7 +41,14 @@ ControlFrame::ControlFrame(const ControlClass& self, IUnknown* outer)
 
 ControlFrame::~ControlFrame() = default;
 
+void ControlFrame::Begin() {
+  UserControl& control = Control().Shown();
+  control.SizeWanted = [this] { TakeWantedSize(); };
+  control.SetSize(HimetricToTwips(extent_.cx), HimetricToTwips(extent_.cy));
+}
+
 void ControlFrame::End() {
+  Control().Shown().SizeWanted = nullptr;
   events_.Close();
   inPlace_.End();
   site_.Set(nullptr);
@@ -51,8 +58,13 @@ void ControlFrame::SetSite(IOleClientSite* site) {
   if (site == nullptr) inPlace_.Deactivate();
   site_.Set(site);
   if (site == nullptr) return;
-  events_.Open();
+  Open();
   TakeUserMode();
+}
+
+void ControlFrame::Open() {
+  events_.Open();
+  Control().Open();
 }
 
 void ControlFrame::TakeUserMode() { Control().Shown().SetUserMode(site_.UserMode()); }
@@ -64,6 +76,16 @@ void ControlFrame::SetExtent(const SIZEL& extent) {
   if (!inPlace_.IsActive())
     Control().Shown().SetSize(HimetricToTwips(extent.cx), HimetricToTwips(extent.cy));
   notices_.ViewChanged();
+}
+
+void ControlFrame::TakeWantedSize() {
+  const UserControl& control = Control().Shown();
+  const SIZEL wanted = {TwipsToHimetric(control.Width()), TwipsToHimetric(control.Height())};
+  if (wanted.cx != extent_.cx || wanted.cy != extent_.cy) {
+    extent_ = wanted;
+    notices_.ViewChanged();
+  }
+  inPlace_.AskForRoom();
 }
 
 void ControlFrame::InitProperties() {

@@ -67,17 +67,23 @@ class ControlFrame : public ComWhole {
   // How many modal windows of the control are on the screen.
   int& ModalDepth() noexcept { return modalDepth_; }
 
-  // Ends everything that the control shows.
+  // Ends everything that the control shows, until the host opens it again: by a site or by a window
+  // for it.
   void Close();
+  void Open();
 
  protected:
   ControlFrame(const ControlClass& self, IUnknown* outer);
   ~ControlFrame() override;
 
-  // To be called by the most derived class's destructor, while the control is still whole.
+  // To be called by the most derived class's constructor, when the control is whole, and by its
+  // destructor, while it still is.
+  void Begin();
   void End();
 
  private:
+  void TakeWantedSize();
+
   const ControlClass& class_;
   ControlSite site_;
   SIZEL extent_ = kFirstExtent;

@@ -1,8 +1,8 @@
 #include "library/DataObjectPart.h"
 
-#include "library/ComEnum.h"
 #include "library/ControlFrame.h"
 #include "library/ControlPicture.h"
+#include "win32/ComEnum.h"
 
 #include <iterator>
 #include <ole2.h>

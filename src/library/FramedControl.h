@@ -19,6 +19,9 @@ class FramedControl {
   virtual void ReadProperties(PropertyBag& bag, const Container& container) = 0;
   virtual void WriteProperties(PropertyBag& bag, Saving saving) const = 0;
 
+  // The host has placed or activated the control, for the first time or after it had closed it.
+  virtual void Open() {}
+
   // The host closes the control, perhaps from inside one of its calls: windows of its own go.
   virtual void Close() = 0;
 };

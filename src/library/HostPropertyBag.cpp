@@ -1,5 +1,6 @@
 #include "library/HostPropertyBag.h"
 
+#include "library/HostPicture.h"
 #include "win32/Errors.h"
 #include "win32/UniqueBstr.h"
 #include "win32/UniqueExcepInfo.h"
@@ -9,6 +10,27 @@
 
 namespace sifter {
 
+namespace {
+
+Value WithPicture(Value value) {
+  const Ref<Object>* const held = value.As<Ref<Object>>();
+  if (held == nullptr) return value;
+  const auto* const object = dynamic_cast<const ComObject*>(held->Get());
+  if (object == nullptr) return Value();
+  const ComRef<IUnknown> identity(object->Identity());
+  if (!identity.As<IPicture>(IID_IPicture)) return value;
+  return Value(Ref<Object>(HostPicture::Of(*identity.Get())));
+}
+
+Value WithObject(const Value& value) {
+  const Ref<Object>* const held = value.As<Ref<Object>>();
+  const auto* const picture =
+      held == nullptr ? nullptr : dynamic_cast<const HostPicture*>(held->Get());
+  return picture == nullptr ? value : Value(Ref<Object>(ComObject::Of(picture->Dispatch())));
+}
+
+}  // namespace
+
 Value HostPropertyBag::ReadProperty(TextView key) {
   lastRead_ = Text(key);
   // Containers look at what is in the variant: an empty one takes any type.
@@ -16,11 +38,11 @@ Value HostPropertyBag::ReadProperty(TextView key) {
   const HRESULT read = bag_.Read(Wide(key).c_str(), value.Receive(), errors_);
   if (read == E_INVALIDARG) return Value();  // how containers say that there is no such entry
   ThrowIfFailed(read);
-  return ValueFromVariant(value.Get());
+  return WithPicture(ValueFromVariant(value.Get()));
 }
 
 void HostPropertyBag::WriteProperty(TextView key, const Value& value) {
-  UniqueVariant written = VariantFromValue(value);
+  UniqueVariant written = VariantFromValue(WithObject(value));
   ThrowIfFailed(bag_.Write(Wide(key).c_str(), written.Address()));
 }
 

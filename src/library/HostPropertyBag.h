@@ -10,7 +10,8 @@
 
 namespace sifter {
 
-// The property bag of a host's container.
+// The property bag of a host's container. Pictures are objects in it, and an entry that is Nothing
+// counts as none.
 class HostPropertyBag final : public PropertyBag {
  public:
   // `bag` is borrowed; `errors` is told of entries that can't be read, and may be null.

@@ -1,20 +1,25 @@
 #include "library/InPlaceActivation.h"
 
+#include "base/FlagScope.h"
 #include "library/ControlFrame.h"
 
 #include <utility>
 
 namespace sifter {
 
+namespace {
+
+// As many pixels as give no less than this.
+int PixelsFor(double twips, int dpi) {
+  const int nearest = TwipsToPixels(twips, dpi);
+  return PixelsToTwips(nearest, dpi) < twips ? nearest + 1 : nearest;
+}
+
+}  // namespace
+
 HRESULT InPlaceActivation::Activate(IOleClientSite* client) {
   if (IsActive() || activating_) return S_OK;
-  struct Activating {
-    explicit Activating(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Activating() { flag_ = false; }
-    Activating(const Activating&) = delete;
-    Activating& operator=(const Activating&) = delete;
-    bool& flag_;
-  } activating(activating_);
+  const FlagScope activating(activating_);
   const auto site = ComRef<IOleClientSite>(client).As<IOleInPlaceSite>(IID_IOleInPlaceSite);
   if (!site) return OLEOBJ_S_CANNOT_DOVERB_NOW;
   if (site->CanInPlaceActivate() != S_OK) return E_FAIL;
@@ -41,12 +46,14 @@ HRESULT InPlaceActivation::Activate(IOleClientSite* client) {
   try {
     window_ = std::make_unique<UserControlWindow>(
         frame_.Control().Shown(), static_cast<UserControlSite&>(*this), parent, box);
+    frame_.Open();  // the host may have closed the control before, and needs no new site for it
     window_->Place(box, visible);
   } catch (...) {
     Deactivate();
     throw;
   }
   ShowAsDefault();
+  AskForRoom();
   return S_OK;
 }
 
@@ -103,7 +110,42 @@ void InPlaceActivation::End() noexcept {
 }
 
 void InPlaceActivation::SetRects(const RECT& box, const RECT& visible) {
-  if (window_) window_->Place(box, visible);
+  if (!window_) return;
+  window_->Place(box, visible);
+  if (Window() == nullptr) return;
+  const RECT now = WindowBox();
+  const RECT wanted = WantedBox(now);
+  if (EqualRect(&wanted, &now)) lastAsked_ = {};
+}
+
+RECT InPlaceActivation::WindowBox() const {
+  RECT box{};
+  GetWindowRect(Window(), &box);
+  MapWindowPoints(nullptr, GetParent(Window()), reinterpret_cast<POINT*>(&box), 2);
+  return box;
+}
+
+// The same place with as much room as the control wants.
+RECT InPlaceActivation::WantedBox(const RECT& box) const {
+  const UserControl& control = frame_.Control().Shown();
+  const int dpi = window_->Measures().Dpi();
+  return {box.left, box.top, box.left + PixelsFor(control.Width(), dpi),
+          box.top + PixelsFor(control.Height(), dpi)};
+}
+
+// The host answers with SetRects, at once or never.
+void InPlaceActivation::AskForRoom() {
+  if (Window() == nullptr || asking_) return;
+  const RECT box = WindowBox();
+  const RECT wanted = WantedBox(box);
+  const SIZE size = {box.right - box.left, box.bottom - box.top};
+  if (EqualRect(&wanted, &box)) return;
+  if (EqualRect(&wanted, &lastAsked_) && size.cx == lastSize_.cx && size.cy == lastSize_.cy) return;
+  lastAsked_ = wanted;
+  lastSize_ = size;
+  const FlagScope asking(asking_);
+  const ComRef<IOleInPlaceSite> site = site_;
+  site->OnPosRectChange(&wanted);
 }
 
 void InPlaceActivation::Show(bool visible) {
@@ -116,7 +158,12 @@ void InPlaceActivation::ShowAsDefault() {
 
 void InPlaceActivation::FromUser(const std::function<void()>& work) {
   const ComRef<IUnknown> alive(&frame_.Identity());
-  if (!frame_.Site().UiDead()) work();
+  if (frame_.Control().Shown().Enabled() && !frame_.Site().UiDead()) work();
+}
+
+void InPlaceActivation::Keep(const std::function<void()>& work) {
+  const ComRef<IUnknown> alive(&frame_.Identity());
+  work();
 }
 
 void InPlaceActivation::FocusCame() {

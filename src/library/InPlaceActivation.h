@@ -41,20 +41,27 @@ class InPlaceActivation final : private UserControlSite {
   // In pixels of the host's window.
   void SetRects(const RECT& box, const RECT& visible);
 
+  // The control wants to be as large as it says: asks the host for that much room. A host that
+  // refuses isn't asked again for the same.
+  void AskForRoom();
+
   // Shows or hides the window.
   void Show(bool visible);
 
   void ShowAsDefault();
 
-  // Runs what the user has done to the control, unless the form says that nobody answers to the
-  // user at the moment.
+  // Runs what the user has done to the control, unless the control is disabled or the form says
+  // that nobody answers to the user at the moment.
   void FromUser(const std::function<void()>& work);
 
  private:
   void Run(const std::function<void()>& work) override { FromUser(work); }
+  void Keep(const std::function<void()>& work) override;
   void FocusCame() override;
   void FocusWent() override;
 
+  RECT WindowBox() const;
+  RECT WantedBox(const RECT& box) const;
   void TellFrames(IOleInPlaceActiveObject* active, LPCOLESTR name);
 
   ControlFrame& frame_;
@@ -64,6 +71,9 @@ class InPlaceActivation final : private UserControlSite {
   std::unique_ptr<UserControlWindow> window_;
   bool activating_ = false;  // the host is being asked; what it does meanwhile doesn't start again
   bool uiActive_ = false;
+  bool asking_ = false;  // the host is being asked for room
+  RECT lastAsked_{};     // what the host has refused; empty when it has not
+  SIZE lastSize_{};      // of the window at that time
 };
 
 }  // namespace sifter

@@ -2,22 +2,13 @@
 
 #include "win32/Win32WindowSystem.h"
 
-#include <atomic>
-
 namespace sifter {
-
-namespace {
-
-// Hosts may have controls on several threads.
-std::atomic<long> uses = 0;
-
-}  // namespace
 
 HINSTANCE ModuleInstance() noexcept {
   HMODULE module = nullptr;
   GetModuleHandleExW(
       GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-      reinterpret_cast<LPCWSTR>(&uses), &module);
+      reinterpret_cast<LPCWSTR>(&ModuleInstance), &module);
   return module;
 }
 
@@ -34,14 +25,6 @@ std::wstring ModulePath() {
   }
 }
 
-ModuleUse::ModuleUse() noexcept { LockModule(); }
-
-ModuleUse::~ModuleUse() { UnlockModule(); }
-
-void LockModule() noexcept { ++uses; }
-
-void UnlockModule() noexcept { --uses; }
-
-bool ModuleIsIdle() noexcept { return uses == 0 && ProcessWinProc().Count() == 0; }
+bool ModuleIsIdle() noexcept { return !ModuleIsUsed() && ProcessWinProc().Count() == 0; }
 
 }  // namespace sifter

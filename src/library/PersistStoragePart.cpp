@@ -46,8 +46,7 @@ HRESULT PersistStoragePart::Load(IStorage* storage) {
 HRESULT PersistStoragePart::Save(IStorage* storage, BOOL sameAsLoaded) {
   if (storage == nullptr) return E_POINTER;
   return Answer([&] {
-    SavedProperties saved;
-    Frame().Control().WriteProperties(saved, Saving::kAll);
+    const SavedProperties saved = StateOf(Frame().Control());
     ThrowIfFailed(WriteClassStg(storage, *Frame().Class().classId));
     ComRef<IStream> stream;
     ThrowIfFailed(storage->CreateStream(kStream, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0,

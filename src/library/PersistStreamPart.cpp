@@ -5,16 +5,6 @@
 
 namespace sifter {
 
-namespace {
-
-SavedProperties AllOf(const FramedControl& control) {
-  SavedProperties saved;
-  control.WriteProperties(saved, Saving::kAll);
-  return saved;
-}
-
-}  // namespace
-
 HRESULT PersistStreamPart::GetClassID(CLSID* id) {
   if (id == nullptr) return E_POINTER;
   *id = *Frame().Class().classId;
@@ -35,7 +25,7 @@ HRESULT PersistStreamPart::Load(IStream* stream) {
 HRESULT PersistStreamPart::Save(IStream* stream, BOOL clearDirty) {
   if (stream == nullptr) return E_POINTER;
   return Answer([&] {
-    WriteStream(*stream, AllOf(Frame().Control()));
+    WriteStream(*stream, StateOf(Frame().Control()));
     if (clearDirty) Frame().SetDirty(false);
     return S_OK;
   });
@@ -45,7 +35,7 @@ HRESULT PersistStreamPart::GetSizeMax(ULARGE_INTEGER* size) {
   if (size == nullptr) return E_POINTER;
   size->QuadPart = 0;
   return Answer([&] {
-    size->QuadPart = AllOf(Frame().Control()).ToBytes().size();
+    size->QuadPart = StateOf(Frame().Control()).ToBytes().size();
     return S_OK;
   });
 }

@@ -1,29 +1,8 @@
 #include "library/TSRowSifterPart.h"
 
 #include "library/HostLists.h"
-#include "win32/UniqueBstr.h"
-#include "win32/WideText.h"
 
 namespace sifter {
-
-namespace {
-
-Text TextOf(BSTR text) { return Text(BstrView(text)); }
-
-}  // namespace
-
-DISPID TSRowSifterPart::IdOf(TextView name) const {
-  std::wstring wide = Wide(name);
-  LPOLESTR names[] = {wide.data()};
-  DISPID id = DISPID_UNKNOWN;
-  return SUCCEEDED(Information()->GetIDsOfNames(names, 1, &id)) ? id : DISPID_UNKNOWN;
-}
-
-HRESULT TSRowSifterPart::Give(const Text& text, BSTR* out) noexcept {
-  if (out == nullptr) return E_POINTER;
-  *out = nullptr;
-  return Do([&] { *out = UniqueBstr(text.View()).Release(); });
-}
 
 HRESULT TSRowSifterPart::putref_Listview(VARIANT lv) {
   return Do([&] {
@@ -61,11 +40,7 @@ HRESULT TSRowSifterPart::put_Active(VARIANT_BOOL Value) {
   return Do([&] { sifter_.SetActive(Value != VARIANT_FALSE); });
 }
 
-HRESULT TSRowSifterPart::get_Active(VARIANT_BOOL* Value) {
-  if (Value == nullptr) return E_POINTER;
-  *Value = sifter_.Active() ? VARIANT_TRUE : VARIANT_FALSE;
-  return S_OK;
-}
+HRESULT TSRowSifterPart::get_Active(VARIANT_BOOL* Value) { return Give(sifter_.Active(), Value); }
 
 HRESULT TSRowSifterPart::get_Filter(BSTR* Value) { return Give(sifter_.Filter(), Value); }
 

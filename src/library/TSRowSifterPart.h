@@ -1,20 +1,16 @@
 #pragma once
 
-#include "base/Text.h"
 #include "controls/TSRowSifter.h"
-#include "library/DispatchPart.h"
+#include "library/MembersPart.h"
 
 #include <RowSifter.h>
 
 namespace sifter {
 
 // The members of the button that filters a list view, as hosts call them.
-class TSRowSifterPart final : public DispatchPart<_TSRowSifter> {
+class TSRowSifterPart final : public MembersPart<_TSRowSifter> {
  public:
-  TSRowSifterPart(TSRowSifter& sifter, IUnknown& whole) : DispatchPart(whole), sifter_(sifter) {}
-
-  // The dispatch identifier of a member; DISPID_UNKNOWN for a name that is none.
-  DISPID IdOf(TextView name) const;
+  TSRowSifterPart(TSRowSifter& sifter, IUnknown& whole) : MembersPart(whole), sifter_(sifter) {}
 
   HRESULT STDMETHODCALLTYPE putref_Listview(VARIANT lv) override;
   HRESULT STDMETHODCALLTYPE put_Listview(VARIANT lv) override;
@@ -34,16 +30,6 @@ class TSRowSifterPart final : public DispatchPart<_TSRowSifter> {
   HRESULT STDMETHODCALLTYPE put_FilterCaption(BSTR Value) override;
 
  private:
-  // The body of a method without a result of its own.
-  template <class Work>
-  HRESULT Do(Work&& work) noexcept {
-    return Answer([&] {
-      work();
-      return S_OK;
-    });
-  }
-  HRESULT Give(const Text& text, BSTR* out) noexcept;
-
   TSRowSifter& sifter_;
 };
 

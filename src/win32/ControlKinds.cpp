@@ -2,6 +2,7 @@
 #include "win32/ComboBoxWindow.h"
 #include "win32/DatePickerWindow.h"
 #include "win32/LabelWindow.h"
+#include "win32/PictureButtonWindow.h"
 #include "win32/StaticWindows.h"
 #include "win32/TextBoxWindow.h"
 
@@ -28,8 +29,9 @@ std::unique_ptr<ControlWindow> ControlWindow::For(ControlHost& host, Control& co
     case ControlKind::kLine:
       return std::make_unique<LineWindow>(host, static_cast<Line&>(control));
     case ControlKind::kPictureButton:
+      return std::make_unique<PictureButtonWindow>(host, static_cast<PictureButton&>(control));
     case ControlKind::kTimer:
-      break;  // not on forms
+      break;  // nothing to see
   }
   return nullptr;
 }

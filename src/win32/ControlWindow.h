@@ -25,8 +25,8 @@ class ControlWindow {
 
   // Takes over the whole state of the control, once after the window was made.
   virtual void Mirror() = 0;
-  // Writes in the form's font.
-  void TakeFont();
+  // Writes in the form's font, or in one of its own.
+  virtual void TakeFont();
 
   // Takes over a property that has changed. Place and visibility are the form's to see to.
   virtual void Update(ControlProperty property) = 0;
@@ -34,6 +34,7 @@ class ControlWindow {
   // What the window reports to the form.
   virtual void OnCommand(WORD) {}
   virtual LRESULT OnNotify(NMHDR&) { return 0; }
+  virtual void OnDraw(const DRAWITEMSTRUCT&) {}
 
   // A key goes down while the control has the focus. True when it has been dealt with.
   virtual bool OnKey(WPARAM key);

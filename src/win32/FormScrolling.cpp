@@ -22,7 +22,7 @@ void FormWindow::Resize() {
   contentHeight_ = frame.bottom;
   AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_STYLE)), FALSE,
                      static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_EXSTYLE)));
-  const RECT work = WorkAreaAround(owner_ != nullptr && !shown_ ? owner_ : window_);
+  const RECT work = WorkAreaAround(behind_ != nullptr && !shown_ ? behind_ : window_);
   LONG width = frame.right - frame.left;
   LONG height = frame.bottom - frame.top;
   const bool scrolls = height > work.bottom - work.top;

@@ -3,6 +3,7 @@
 #include "base/RuntimeError.h"
 #include "win32/FormOrder.h"
 #include "win32/TextBoxWindow.h"
+#include "win32/ThisModule.h"
 #include "win32/WideText.h"
 #include "win32/WindowEntry.h"
 
@@ -17,14 +18,6 @@ constexpr UINT kComplete = WM_APP;
 constexpr wchar_t kWindowClass[] = L"RowSifterForm";
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_3DLOOK | WS_CLIPCHILDREN;
 constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-
-HINSTANCE ThisModule() {
-  HMODULE module = nullptr;
-  GetModuleHandleExW(
-      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-      kWindowClass, &module);
-  return module;
-}
 
 void RegisterWindowClass(WNDPROC procedure) {
   WNDCLASSEXW windowClass{};
@@ -135,7 +128,7 @@ Text FormWindow::AccessibleNameOf(const Control& control) const {
 }
 
 void FormWindow::Show(HWND owner) {
-  owner_ = owner;
+  behind_ = owner != nullptr ? owner : GetActiveWindow();
   focusBefore_ = GetFocus();
   SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
   scroll_ = 0;
@@ -151,14 +144,14 @@ void FormWindow::Show(HWND owner) {
 
 void FormWindow::Hide() {
   if (!std::exchange(shown_, false)) return;
-  // The owner has to be able to take the activation when the form gives it up, or it would go to
-  // another program's window.
+  // The window behind has to be able to take the activation when the form gives it up, or it would
+  // go to another program's window.
   EnableOwners();
   const bool active = GetActiveWindow() == window_;
   ShowWindow(window_, SW_HIDE);
-  const HWND owner = std::exchange(owner_, nullptr);
+  const HWND behind = std::exchange(behind_, nullptr);
   const HWND focus = std::exchange(focusBefore_, nullptr);
-  if (active && owner != nullptr) SetActiveWindow(owner);
+  if (active && behind != nullptr && IsWindow(behind)) SetActiveWindow(behind);
   if (active && focus != nullptr && IsWindow(focus)) SetFocus(focus);
   // A window goes with its owner, and this one is still needed when the host's has gone.
   SetWindowLongPtrW(window_, GWLP_HWNDPARENT, 0);
@@ -185,15 +178,15 @@ BOOL CALLBACK DisableOther(HWND window, LPARAM parameter) {
 
 }  // namespace
 
-// Nobody owns the form, since no window of the thread was active. All of them wait for it.
+// Windows that stand on their own, which are nobody's owner, wait too.
 void FormWindow::DisableThread() {
   const Disabling disabling{window_, disabled_};
   EnumThreadWindows(GetCurrentThreadId(), DisableOther, reinterpret_cast<LPARAM>(&disabling));
 }
 
-void FormWindow::RunModal(HWND owner) {
+void FormWindow::RunModal(HWND owner, Waiting waiting) {
   if (!form_.Visible()) return;
-  if (owner == nullptr) DisableThread();
+  if (owner == nullptr || waiting == Waiting::kThread) DisableThread();
   for (; owner != nullptr; owner = GetWindow(owner, GW_OWNER))
     if (IsWindowEnabled(owner)) {
       disabled_.push_back(owner);

@@ -27,13 +27,18 @@ class FormWindow final : public ControlWatcher, public ControlHost {
   HWND Handle() const override { return window_; }
   const FormMeasures& Measures() const override { return measures_; }
 
-  // Puts the window on the screen, owned by `owner` (the host's; may be null).
+  // Puts the window on the screen, owned by `owner` (the host's). Without one (null) it stands on its
+  // own, and outlives the host's windows.
   void Show(HWND owner);
   void Hide();
   bool IsShown() const { return shown_; }
 
-  // Runs messages until the form is no longer visible, with its owner disabled.
-  void RunModal(HWND owner);
+  // The windows that wait for a form that is shown modally.
+  enum class Waiting { kOwners, kThread };
+
+  // Runs messages until the form is no longer visible, with its owner disabled. Without an owner
+  // all the windows of the thread are.
+  void RunModal(HWND owner, Waiting waiting = Waiting::kOwners);
 
   // Deals with what the keyboard does in a dialog: Tab, Enter, arrows, Alt and a letter. True when
   // the message needs no further treatment.
@@ -80,8 +85,8 @@ class FormWindow final : public ControlWatcher, public ControlHost {
   Form& form_;
   FormMeasures measures_;
   HWND window_ = nullptr;
-  HWND owner_ = nullptr;        // the host's
-  std::vector<HWND> disabled_;  // it and its own owners, while the form is shown modally
+  HWND behind_ = nullptr;       // its owner, or the window that was active when the form came
+  std::vector<HWND> disabled_;  // while the form is shown modally
   HWND focusBefore_ = nullptr;  // where the focus was before the form came
   HWND lastFocus_ = nullptr;
   bool shown_ = false;

@@ -1,12 +1,19 @@
 #include "win32/LabelWindow.h"
 
 #include "win32/ControlHost.h"
-#include "win32/UniqueGdi.h"
+#include "win32/WideText.h"
 
+#include <cmath>
 #include <cstdlib>
 #include <windowsx.h>
 
 namespace sifter {
+
+namespace {
+
+constexpr double kPointsPerInch = 72;
+
+}  // namespace
 
 LabelWindow::LabelWindow(ControlHost& host, Label& label)
     : ControlWindow(host, label, L"STATIC",
@@ -14,10 +21,37 @@ LabelWindow::LabelWindow(ControlHost& host, Label& label)
                         (label.Draggable() ? SS_NOTIFY : 0)),
       label_(label) {}
 
-void LabelWindow::Mirror() { Update(ControlProperty::kCaption); }
+void LabelWindow::Mirror() {
+  TakeFont();
+  Update(ControlProperty::kCaption);
+  Update(ControlProperty::kBorderStyle);
+}
 
 void LabelWindow::Update(ControlProperty property) {
   if (property == ControlProperty::kCaption) ShowText(label_.Caption());
+  if (property == ControlProperty::kBorderStyle) {
+    const bool border = label_.BorderStyle() == BorderStyle::kSingle;
+    const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_EXSTYLE);
+    SetWindowLongPtrW(Handle(), GWL_EXSTYLE,
+                      border ? style | WS_EX_STATICEDGE : style & ~LONG_PTR{WS_EX_STATICEDGE});
+    SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  }
+}
+
+void LabelWindow::TakeFont() {
+  if (label_.FontName().IsEmpty()) return ControlWindow::TakeFont();
+  LOGFONTW font{};
+  GetObjectW(Host().Measures().Font(), sizeof font, &font);
+  const double height = label_.FontSize() * Host().Measures().Dpi() / kPointsPerInch;
+  font.lfHeight = -static_cast<LONG>(std::lround(height));
+  font.lfWidth = 0;
+  const std::wstring name = Wide(label_.FontName().View());
+  font.lfFaceName[name.copy(font.lfFaceName, LF_FACESIZE - 1)] = L'\0';
+  UniqueFont made(CreateFontIndirectW(&font));
+  if (!made) return;
+  SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(made.Get()), TRUE);
+  ownFont_ = std::move(made);
 }
 
 // A text stands in the middle of its line and ends in an ellipsis where that is too short. With
@@ -27,7 +61,7 @@ void LabelWindow::Place(const RECT& box) {
   TEXTMETRICW metrics{};
   {
     const WindowDc dc(Handle());
-    const SelectedObject font(dc.Get(), Host().Measures().Font());
+    const SelectedObject font(dc.Get(), ownFont_ ? ownFont_.Get() : Host().Measures().Font());
     GetTextMetricsW(dc.Get(), &metrics);
   }
   const bool breaks = box.bottom - box.top >= 2 * metrics.tmHeight;

@@ -2,11 +2,12 @@
 
 #include "forms/Label.h"
 #include "win32/ControlWindow.h"
+#include "win32/UniqueGdi.h"
 
 namespace sifter {
 
-// A label. One that is draggable can be dragged with the mouse onto another control of the form;
-// Escape ends the dragging.
+// A label, in a font of its own if it has one. One that is draggable can be dragged with the mouse
+// onto another control of the form; Escape ends the dragging.
 class LabelWindow final : public ControlWindow {
  public:
   LabelWindow(ControlHost& host, Label& label);
@@ -14,6 +15,7 @@ class LabelWindow final : public ControlWindow {
   void Mirror() override;
   void Update(ControlProperty property) override;
   void Place(const RECT& box) override;
+  void TakeFont() override;
   bool TakesFocus() const override { return false; }
 
  private:
@@ -23,6 +25,7 @@ class LabelWindow final : public ControlWindow {
   ControlWindow* TargetAt(POINT at) const;
 
   Label& label_;
+  UniqueFont ownFont_;
   bool pressed_ = false;
   bool dragging_ = false;
   POINT pressedAt_{};

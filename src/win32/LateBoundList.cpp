@@ -1,6 +1,7 @@
 #include "win32/LateBoundList.h"
 
 #include "base/AbsorbErrors.h"
+#include "win32/ColumnClickSink.h"
 #include "win32/LateBoundListParts.h"
 
 #include <utility>
@@ -16,6 +17,12 @@ std::unique_ptr<LateBoundListRows> OpenRows(IDispatch* list) {
   return std::make_unique<LateBoundListRows>(std::move(transfer));
 }
 
+// Good for as long as the object is held.
+const void* IdentityOf(IDispatch* object) {
+  const auto identity = ComRef<IDispatch>(object).As<IUnknown>(IID_IUnknown);
+  return identity.Get();
+}
+
 // A handle fits 32 bits, but hosts may hand it over as an unsigned or a wider number.
 std::int32_t HandleIn(const Value& value) {
   const double* wide = value.As<double>();
@@ -29,6 +36,7 @@ HWND WindowOf(std::int32_t handle) { return reinterpret_cast<HWND>(static_cast<I
 
 LateBoundList::LateBoundList(ComRef<IDispatch> list, Transfer transfer)
     : object_(MakeRef<LateBoundClasses>(), std::move(list), LateBoundRole::kList),
+      identity_(IdentityOf(object_.Get())),
       rows_(transfer == Transfer::kNever ? nullptr : OpenRows(object_.Get())) {}
 
 Ref<ColumnHeaderCollection> LateBoundList::ColumnHeaders() {
@@ -44,6 +52,10 @@ Ref<ListItemCollection> LateBoundList::ListItems() {
 
 std::int32_t LateBoundList::hWnd() const {
   return HandleIn(object_.Read(LateBoundMember::kWindow));
+}
+
+Ref<Object> LateBoundList::WatchColumnClicks(std::function<void(std::int32_t column)> clicked) {
+  return WatchColumnClickEvent(object_.Get(), std::move(clicked));
 }
 
 // A list without a window is changed like any other.

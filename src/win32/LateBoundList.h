@@ -6,6 +6,8 @@
 #include "win32/LateBoundListRows.h"
 #include "win32/RedrawPause.h"
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <oaidl.h>
 #include <windows.h>
@@ -41,12 +43,17 @@ class LateBoundList final : public HostListView {
   void SetSortOrder(const Value& order) override {
     object_.Write(LateBoundMember::kSortOrder, order);
   }
+  const void* Identity() const override { return identity_; }
+  void SetFocus() override { object_.Call(LateBoundMember::kSetFocus); }
+  // By the event ColumnClick that the object offers.
+  Ref<Object> WatchColumnClicks(std::function<void(std::int32_t column)> clicked) override;
   void BeginUpdate() noexcept override;
   void EndUpdate() noexcept override;
   SharedRows* Shared() override { return rows_.get(); }
 
  private:
   LateBoundObject object_;
+  const void* identity_;                     // the object's IUnknown
   std::unique_ptr<LateBoundListRows> rows_;  // null when the object has none to transfer
   RedrawPause pause_{RedrawPause::Hidden::kLeaveAlone};
 };

@@ -11,11 +11,11 @@ namespace sifter {
 namespace {
 
 constexpr TextView kNames[] = {
-    u"Add",         u"Alignment", u"Bold",         u"Checked",  u"Clear",      u"ColumnHeaders",
-    u"Count",       u"ForeColor", u"Ghosted",      u"Icon",     u"Index",      u"Item",
-    u"Key",         u"ListItems", u"ListSubItems", u"Remove",   u"ReportIcon", u"SmallIcon",
-    u"Sorted",      u"SortKey",   u"SortOrder",    u"SubItems", u"Tag",        u"Text",
-    u"ToolTipText", u"Width",     u"hWnd",
+    u"Add",       u"Alignment",   u"Bold",         u"Checked",   u"Clear",      u"ColumnHeaders",
+    u"Count",     u"ForeColor",   u"Ghosted",      u"Icon",      u"Index",      u"Item",
+    u"Key",       u"ListItems",   u"ListSubItems", u"Remove",    u"ReportIcon", u"SetFocus",
+    u"SmallIcon", u"Sorted",      u"SortKey",      u"SortOrder", u"SubItems",   u"Tag",
+    u"Text",      u"ToolTipText", u"Width",        u"hWnd",
 };
 static_assert(std::size(kNames) == kLateBoundMembers);
 

@@ -30,6 +30,7 @@ enum class LateBoundMember {
   kListSubItems,
   kRemove,
   kReportIcon,
+  kSetFocus,
   kSmallIcon,
   kSorted,
   kSortKey,

@@ -1,5 +1,6 @@
 #include "win32/ModuleVersionInfo.h"
 
+#include "win32/ThisModule.h"
 #include "win32/WideText.h"
 
 #include <cstddef>
@@ -13,18 +14,11 @@ namespace sifter {
 
 namespace {
 
-// Its address tells the module.
-const char kInThisModule = 0;
-
 std::wstring ModuleFile() {
-  HMODULE module = nullptr;  // borrowed: it stays while its code runs
-  if (!GetModuleHandleExW(
-          GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-          reinterpret_cast<LPCWSTR>(&kInThisModule), &module))
-    return {};
   std::wstring file(MAX_PATH, L'\0');
   for (;;) {
-    const DWORD length = GetModuleFileNameW(module, file.data(), static_cast<DWORD>(file.size()));
+    const DWORD length =
+        GetModuleFileNameW(ThisModule(), file.data(), static_cast<DWORD>(file.size()));
     if (length < file.size()) {
       file.resize(length);
       return file;

@@ -46,8 +46,4 @@ NativeListViewDisplay& Opened(HWND window) {
 
 Ref<HostListView> NativeListView(HWND window) { return Ref<HostListView>(&Opened(window).List()); }
 
-void SetColumnClick(HWND window, std::function<void(std::int32_t column)> columnClick) {
-  Opened(window).SetColumnClick(std::move(columnClick));
-}
-
 }  // namespace sifter

@@ -2,8 +2,6 @@
 
 #include "listmodel/HostListView.h"
 
-#include <cstdint>
-#include <functional>
 #include <windows.h>
 
 namespace sifter {
@@ -18,12 +16,8 @@ namespace sifter {
 // that its notices go to, and keep its own items (no LVS_OWNERDATA): anything else is error 5. Its
 // notices come in their Unicode form from then on.
 //
-// Measures of columns are twips. Errors and order of notices are those of MemoryListView, whose
-// rows can be shared.
+// Those who watch clicks on the headers are told of them behind the parent. Measures of columns are
+// twips. Errors and order of notices are those of MemoryListView, whose rows can be shared.
 Ref<HostListView> NativeListView(HWND window);
-
-// Has `columnClick` told of clicks on the headers of a native list's columns, by position from 1.
-// There is one for each list; an empty one ends it.
-void SetColumnClick(HWND window, std::function<void(std::int32_t column)> columnClick);
 
 }  // namespace sifter

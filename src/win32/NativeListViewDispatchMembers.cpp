@@ -99,6 +99,10 @@ void ReadWindow(Object& part, const DispatchCall&, VARIANT* result) {
   Return(result, static_cast<HostListView&>(part).hWnd());
 }
 
+void GiveFocus(Object& part, const DispatchCall&, VARIANT*) {
+  static_cast<HostListView&>(part).SetFocus();
+}
+
 // Tables of the members. A name's place among the others doesn't matter to hosts; its number, once
 // given, may have been kept by them.
 
@@ -197,6 +201,7 @@ constexpr DispatchMember kListMembers[] = {
     Property<HostListView, &HostListView::Sorted, &HostListView::SetSorted>(u"Sorted", 4),
     Property<HostListView, &HostListView::SortKey, &HostListView::SetSortKey>(u"SortKey", 5),
     Property<HostListView, &HostListView::SortOrder, &HostListView::SetSortOrder>(u"SortOrder", 6),
+    Method(u"SetFocus", 7, {}, 0, &GiveFocus),
 };
 
 }  // namespace

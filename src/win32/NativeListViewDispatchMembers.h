@@ -12,7 +12,7 @@ namespace sifter {
 // The parts of a list as objects for hosts, each with the members of the list model under their
 // names:
 //
-//   list            ColumnHeaders, ListItems, hWnd, Sorted, SortKey, SortOrder
+//   list            ColumnHeaders, ListItems, hWnd, Sorted, SortKey, SortOrder, SetFocus
 //   collections     Item (default), Count, Add, Clear, _NewEnum, and for rows Remove
 //   column          Index, Key, Text, Width, Alignment, Icon, Tag
 //   row             Index, Key, Text, Tag, Icon, SmallIcon, ToolTipText, Checked, Bold, ForeColor,

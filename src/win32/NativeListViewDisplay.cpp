@@ -2,6 +2,7 @@
 
 #include "win32/AnsiText.h"
 #include "win32/WideText.h"
+#include "win32/WindowEntry.h"
 #include "win32/mListviewMacros_471.h"
 
 #include <type_traits>
@@ -116,6 +117,12 @@ double NativeListViewDisplay::ColumnWidth(std::int32_t position, double given) c
   return window_.handle == nullptr ? given : columns_.Width(position, given);
 }
 
+void NativeListViewDisplay::SetFocus() {
+  if (window_.handle == nullptr) return;
+  const Ref<MemoryListView> list = alive_;  // the host may destroy the window when it is told
+  CallingWindows([&] { ::SetFocus(window_.handle); });
+}
+
 std::optional<LRESULT> NativeListViewDisplay::OnMessage(UINT message, WPARAM wParam,
                                                         LPARAM lParam) {
   if (message == WM_NCDESTROY) return OnWindowGone(wParam, lParam);
@@ -176,7 +183,7 @@ std::optional<LRESULT> NativeListViewDisplay::OnNotice(NMHDR& notice, WPARAM wPa
       return OnLabelEdited(As<NMLVDISPINFOA>(notice).item, parentsAnswer());
     case LVN_COLUMNCLICK: {
       const LRESULT answer = parentsAnswer();
-      OnColumnClicked(As<NMLISTVIEW>(notice).iSubItem);
+      window_.list.ClickColumn(As<NMLISTVIEW>(notice).iSubItem + 1);
       return answer;
     }
     default:
@@ -197,11 +204,6 @@ LRESULT NativeListViewDisplay::OnLabelEdited(const Item& item, LRESULT parentsAn
     text = FromWide(WideFromAnsi(item.pszText));
   window_.list.ListItems()->Item(position)->SetText(text);
   return FALSE;
-}
-
-void NativeListViewDisplay::OnColumnClicked(int column) {
-  const ColumnClick columnClick = columnClick_;
-  if (columnClick) columnClick(column + 1);
 }
 
 }  // namespace sifter

@@ -11,7 +11,6 @@
 #include "win32/WindowTap.h"
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <vector>
 #include <windows.h>
@@ -26,9 +25,6 @@ namespace sifter {
 // window.
 class NativeListViewDisplay final : public ListDisplay {
  public:
-  // Tells of a click on a column's header, by the column's position.
-  using ColumnClick = std::function<void(std::int32_t column)>;
-
   // `window` is the host's and has a parent; `list` owns this object.
   NativeListViewDisplay(HWND window, MemoryListView& list);
   ~NativeListViewDisplay() override;
@@ -40,7 +36,6 @@ class NativeListViewDisplay final : public ListDisplay {
   static NativeListViewDisplay* Of(HWND window);
 
   MemoryListView& List() const { return window_.list; }
-  void SetColumnClick(ColumnClick columnClick) { columnClick_ = std::move(columnClick); }
 
   void InsertRow(const RowHandle& row) override;
   void RemoveRow(const RowHandle& row) override;
@@ -52,6 +47,7 @@ class NativeListViewDisplay final : public ListDisplay {
   void ColumnChanged(std::int32_t position) override;
   void ColumnResized(std::int32_t position, double width) override;
   double ColumnWidth(std::int32_t position, double given) const override;
+  void SetFocus() override;
   void BeginUpdate() noexcept override { pause_.Begin(window_.handle); }
   void EndUpdate() noexcept override { pause_.End(); }
 
@@ -61,7 +57,6 @@ class NativeListViewDisplay final : public ListDisplay {
   std::optional<LRESULT> OnNotice(NMHDR& notice, WPARAM wParam, LPARAM lParam);
   template <class Item>
   LRESULT OnLabelEdited(const Item& item, LRESULT parentsAnswer);
-  void OnColumnClicked(int column);
   LRESULT OnWindowGone(WPARAM wParam, LPARAM lParam);
 
   // Whether a change of the list is to be brought to the window.
@@ -77,7 +72,6 @@ class NativeListViewDisplay final : public ListDisplay {
   NativeListViewFollower follower_;
   RedrawPause pause_{RedrawPause::Hidden::kPauseToo};
   WindowTap parentTap_;
-  ColumnClick columnClick_;
   Ref<MemoryListView> alive_;  // the list, for as long as the window lives
 };
 

@@ -3,6 +3,7 @@
 #include "win32/ComResult.h"
 #include "win32/NativeListViewDispatchMembers.h"
 #include "win32/NativeListViewDispatchObject.h"
+#include "win32/NativeListViewEvents.h"
 #include "win32/RowTransferServer.h"
 
 #include <utility>
@@ -33,7 +34,8 @@ class ListViewDispatch final : public DispatchObject, private IRowTransferSource
   ~ListViewDispatch() override { std::erase(LivingObjects(), this); }
 
   void* OtherInterface(REFIID id) override {
-    return id == kRowTransferSourceId ? static_cast<IRowTransferSource*>(this) : nullptr;
+    if (id == kRowTransferSourceId) return static_cast<IRowTransferSource*>(this);
+    return events_.Interface(id);
   }
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
@@ -49,6 +51,7 @@ class ListViewDispatch final : public DispatchObject, private IRowTransferSource
   }
 
   Ref<HostListView> list_;
+  NativeListViewEvents events_{*static_cast<DispatchObject*>(this), *list_};
 };
 
 }  // namespace

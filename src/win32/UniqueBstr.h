@@ -43,6 +43,9 @@ class UniqueBstr {
     return &text_;
   }
 
+  // To be passed where a callee reads it or puts another one in its place.
+  BSTR* Address() noexcept { return &text_; }
+
   // Gives up the ownership.
   [[nodiscard]] BSTR Release() noexcept { return std::exchange(text_, nullptr); }
 

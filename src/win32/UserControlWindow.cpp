@@ -2,9 +2,11 @@
 
 #include "base/RuntimeError.h"
 #include "win32/FormOrder.h"
+#include "win32/ThisModule.h"
 #include "win32/WindowEntry.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace sifter {
 
@@ -12,15 +14,8 @@ namespace {
 
 constexpr wchar_t kWindowClass[] = L"RowSifterControl";
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
+constexpr UINT kDpiChangedAfterParent = 0x02E3;  // unknown to headers for older systems
 constexpr LONG_PTR kDialogStyles = WS_TABSTOP | WS_GROUP;
-
-HINSTANCE ThisModule() {
-  HMODULE module = nullptr;
-  GetModuleHandleExW(
-      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-      kWindowClass, &module);
-  return module;
-}
 
 void RegisterWindowClass(WNDPROC procedure) {
   WNDCLASSEXW windowClass{};
@@ -53,20 +48,36 @@ UserControlWindow::UserControlWindow(UserControl& control, UserControlSite& site
       CreateWindowExW(0, kWindowClass, L"", kStyle, box.left, box.top, box.right - box.left,
                       box.bottom - box.top, parent, nullptr, ThisModule(), this);
   if (window == nullptr) throw RuntimeError(ErrorNumber::kInvalidProcedureCall);
-  measures_.emplace(window);
+  try {
+    Fill();
+  } catch (...) {
+    LetGo();
+    throw;
+  }
+}
+
+UserControlWindow::~UserControlWindow() { LetGo(); }
+
+void UserControlWindow::Fill() {
+  measures_.emplace(window_.Get());
+  tips_.emplace(window_.Get());
   TakeBackColor();
+  EnableWindow(window_.Get(), control_.Enabled());
   for (Control* each : control_.Controls()) MakeControl(*each);
   control_.Watch(this);
   control_.Changed = [this] {
     TakeBackColor();
-    InvalidateRect(window_.Get(), nullptr, TRUE);
+    RedrawWindow(window_.Get(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    Enable();
   };
   OnSize();
 }
 
-UserControlWindow::~UserControlWindow() {
+// What is still to come for the window finds no object any more.
+void UserControlWindow::LetGo() {
   control_.Watch(nullptr);
   control_.Changed = nullptr;
+  tips_.reset();
   controls_.clear();
   if (window_) SetWindowLongPtrW(window_.Get(), GWLP_USERDATA, 0);
 }
@@ -77,7 +88,8 @@ void UserControlWindow::MakeControl(Control& control) {
   const LONG_PTR style = GetWindowLongPtrW(window->Handle(), GWL_STYLE);
   SetWindowLongPtrW(window->Handle(), GWL_STYLE, style & ~kDialogStyles);
   window->Mirror();
-  EnableWindow(window->Handle(), control.Enabled());
+  Enable(*window);
+  tips_->Tell(window->Handle(), control.ToolTipText());
   Place(*window);
   ShowWindow(window->Handle(), control.Visible() ? SW_SHOWNA : SW_HIDE);
   controls_.emplace(&control, std::move(window));
@@ -93,6 +105,27 @@ void UserControlWindow::Place(ControlWindow& control) const {
   control.Place(box);
 }
 
+void UserControlWindow::OnControlRemoved(Control& control) {
+  ControlWindow* const window = Find(control);
+  if (window != nullptr && tips_) tips_->Tell(window->Handle(), {});
+  controls_.erase(&control);
+}
+
+// A control that nobody can use looks so in all its parts.
+void UserControlWindow::Enable(ControlWindow& control) const {
+  EnableWindow(control.Handle(), control_.Enabled() && control.Shown().Enabled());
+}
+
+// A window that is disabled would keep the focus, or lose it to none.
+void UserControlWindow::Enable() {
+  const bool enabled = control_.Enabled();
+  const HWND focus = GetFocus();
+  EnableWindow(window_.Get(), enabled);
+  for (const auto& [control, window] : controls_) Enable(*window);
+  if (!enabled && (focus == window_.Get() || IsChild(window_.Get(), focus)))
+    SetFocus(GetParent(window_.Get()));
+}
+
 void UserControlWindow::OnPropertyChanged(Control& control, ControlProperty property) {
   ControlWindow* const window = Find(control);
   if (window == nullptr) return;
@@ -106,8 +139,14 @@ void UserControlWindow::OnPropertyChanged(Control& control, ControlProperty prop
     case ControlProperty::kVisible:
       ShowWindow(window->Handle(), control.Visible() ? SW_SHOWNA : SW_HIDE);
       break;
-    case ControlProperty::kEnabled:
-      EnableWindow(window->Handle(), control.Enabled());
+    case ControlProperty::kEnabled: {
+      const bool leaves = !control.Enabled() && GetFocus() == window->Handle();
+      Enable(*window);
+      if (leaves) SetFocus(window_.Get());
+      break;
+    }
+    case ControlProperty::kToolTipText:
+      tips_->Tell(window->Handle(), control.ToolTipText());
       break;
     default:
       window->Update(property);
@@ -144,31 +183,23 @@ void UserControlWindow::Place(const RECT& box, const RECT& visible) {
 void UserControlWindow::OnSize() {
   RECT area;
   GetClientRect(window_.Get(), &area);
-  const int dpi = DpiOf(window_.Get());
+  const int dpi = measures_->Dpi();
   control_.SetSize(PixelsToTwips(area.right, dpi), PixelsToTwips(area.bottom, dpi));
+}
+
+// The window has come to a monitor with other dots per inch. Places that stay the same in twips are
+// others in pixels.
+void UserControlWindow::OnNewDpi() {
+  const FormMeasures before = std::exchange(*measures_, FormMeasures(window_.Get()));
+  for (const auto& [control, window] : controls_) {
+    window->TakeFont();
+    Place(*window);
+  }
+  site_.Keep([this] { OnSize(); });
 }
 
 void UserControlWindow::TakeBackColor() {
   background_.Reset(CreateSolidBrush(ColorOf(control_.BackColor())));
-}
-
-void UserControlWindow::TakeFocus() {
-  if (!window_ || Find(GetFocus()) != nullptr) return;
-  for (Control* control : control_.Controls()) {
-    const ControlWindow* const window = Find(*control);
-    if (window == nullptr || !window->TakesFocus() || !control->Visible() || !control->Enabled())
-      continue;
-    SetFocus(window->Handle());
-    return;
-  }
-}
-
-bool UserControlWindow::TranslateKey(const MSG& message) {
-  if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN) return false;
-  ControlWindow* const control = Find(message.hwnd);
-  if (control == nullptr) return false;
-  site_.Run([&] { control->OnKey(message.wParam); });
-  return true;
 }
 
 void UserControlWindow::ShowAsDefault(bool isDefault) {
@@ -200,8 +231,12 @@ LRESULT CALLBACK UserControlWindow::Procedure(HWND window, UINT message, WPARAM 
 
 LRESULT UserControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    // What the host answers to either may end this object, so there is nothing after them.
     case WM_SIZE:
-      OnSize();
+      site_.Keep([this] { OnSize(); });
+      return 0;
+    case kDpiChangedAfterParent:
+      OnNewDpi();
       return 0;
     case WM_COMMAND:
       // The work may end this object, so there is nothing after it.
@@ -217,12 +252,22 @@ LRESULT UserControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
       FillRect(reinterpret_cast<HDC>(wParam), &area, background_.Get());
       return TRUE;
     }
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+      if (ControlWindow* const control = Find(item.hwndItem)) control->OnDraw(item);
+      return TRUE;
+    }
+    case WM_CTLCOLORSTATIC:
+      SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_BTNTEXT));
+      SetBkColor(reinterpret_cast<HDC>(wParam), ColorOf(control_.BackColor()));
+      return reinterpret_cast<LRESULT>(background_.Get());
     case WM_CTLCOLORBTN:
       return reinterpret_cast<LRESULT>(background_.Get());
     case WM_SYSCOLORCHANGE:
       TakeBackColor();
       break;
     case WM_DESTROY:
+      tips_.reset();
       controls_.clear();
       break;
     case WM_NCDESTROY:

@@ -4,6 +4,7 @@
 #include "win32/ControlHost.h"
 #include "win32/ControlWindow.h"
 #include "win32/FormMeasures.h"
+#include "win32/ToolTips.h"
 #include "win32/UniqueGdi.h"
 #include "win32/UniqueWindow.h"
 
@@ -11,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 #include <windows.h>
 
 namespace sifter {
@@ -23,6 +25,9 @@ class UserControlSite {
   // Runs what the user has done to the control, or lets it be when it doesn't answer to the user.
   // The work may end the control and its window, which must live until it is over.
   virtual void Run(const std::function<void()>& work) = 0;
+
+  // Runs other work that may end the control; it must live until that is over.
+  virtual void Keep(const std::function<void()>& work) = 0;
 
   // The focus has come to the control, or goes to a window outside of it.
   virtual void FocusCame() = 0;
@@ -45,10 +50,12 @@ class UserControlWindow final : public ControlHost, private ControlWatcher {
   // In pixels of the parent. What is outside of `visible` is not drawn.
   void Place(const RECT& box, const RECT& visible);
 
-  // Gives the focus to the first control that takes it.
+  // Gives the focus to the first control that takes it, or to the last one when the user has come
+  // with Shift+Tab.
   void TakeFocus();
 
-  // Deals with a key that goes down while the control has the focus, if it is one of its own.
+  // Deals with a key that goes down while the control has the focus, if it is one of its own. Tab
+  // and the arrow keys are, as long as they lead to another control in here.
   bool TranslateKey(const MSG& message);
 
   // Draws the frame around buttons that tells what Enter presses.
@@ -67,23 +74,31 @@ class UserControlWindow final : public ControlHost, private ControlWatcher {
 
  private:
   void OnControlAdded(Control&) override {}
-  void OnControlRemoved(Control& control) override { controls_.erase(&control); }
+  void OnControlRemoved(Control& control) override;
   void OnPropertyChanged(Control& control, ControlProperty property) override;
 
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
   void OnDestroy();
   void OnSize();
+  void OnNewDpi();
 
+  void Fill();
+  void LetGo();
   void MakeControl(Control& control);
   void Place(ControlWindow& control) const;
+  void Enable();
+  void Enable(ControlWindow& control) const;
   void TakeBackColor();
+  std::vector<const ControlWindow*> TabStops() const;
+  bool MoveFocus(const ControlWindow& from, WPARAM key, int step);
 
   UserControl& control_;
   UserControlSite& site_;
   UniqueWindow window_;
   std::optional<FormMeasures> measures_;
   UniqueBrush background_;
+  std::optional<ToolTips> tips_;
   std::map<const Control*, std::unique_ptr<ControlWindow>> controls_;
 };
 

@@ -3,6 +3,8 @@
 #include "forms/Form.h"
 #include "win32/WindowEntry.h"
 
+#include <algorithm>
+
 namespace sifter {
 
 Win32FormHost::~Win32FormHost() = default;
@@ -19,33 +21,46 @@ FormWindow& Win32FormHost::Realise(Form& form) {
   return *window;
 }
 
-// When the active window belongs to the host's, the form stands in front of both.
+// A form that is on the screen and belongs to nobody; with null any such form.
+bool Win32FormHost::IsOnItsOwn(HWND window) const {
+  return std::any_of(windows_.begin(), windows_.end(), [window](const auto& entry) {
+    if (entry.second == nullptr || !entry.second->IsShown()) return false;
+    const HWND shown = entry.second->Handle();
+    return (window == nullptr || window == shown) && GetWindow(shown, GW_OWNER) == nullptr;
+  });
+}
+
+// When the active window belongs to the host's, or is a form that belongs to nobody, the form
+// stands in front of both.
 HWND Win32FormHost::Owner() const {
   const HWND active = GetActiveWindow();
   if (owner_ == nullptr || !IsWindow(owner_)) return active;
   const HWND owner = GetAncestor(owner_, GA_ROOT);
   for (HWND at = active; at != nullptr; at = GetWindow(at, GW_OWNER))
-    if (at == owner) return active;
+    if (at == owner || IsOnItsOwn(at)) return active;
   return owner;
 }
 
 void Win32FormHost::ShowModal(Form& form) {
   const HWND owner = Owner();
+  // One that is shown modeless would answer to the user as before.
+  const auto waiting =
+      IsOnItsOwn(nullptr) ? FormWindow::Waiting::kThread : FormWindow::Waiting::kOwners;
   FormWindow& window = Realise(form);
   try {
     CallingWindows([&] { window.Show(owner); });
-    window.RunModal(owner);
+    window.RunModal(owner, waiting);
   } catch (...) {
     window.Hide();
     throw;
   }
 }
 
+// It outlives the host's windows, and stands before or behind them as the user likes.
 void Win32FormHost::ShowModeless(Form& form) {
-  const HWND owner = Owner();
   FormWindow& window = Realise(form);
   try {
-    CallingWindows([&] { window.Show(owner); });
+    CallingWindows([&] { window.Show(nullptr); });
     modelessKeys_.Watch(window);
   } catch (...) {
     window.Hide();

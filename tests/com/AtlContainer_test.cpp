@@ -1,4 +1,4 @@
-#include "HostedSifter.h"
+#include "HostedBanner.h"
 
 namespace sifter {
 
@@ -8,7 +8,7 @@ namespace {
 // window's text names.
 class PlatformsContainer : public ComTest {
  protected:
-  PlatformsContainer() {
+  PlatformsContainer(const std::wstring& name, int width) : type(name) {
     MakeRoomAbove(form.List());
     Fill(*rows, {"Name"}, {{"Oak"}, {"Ash"}, {"Larch"}});
     EXPECT_EQ(CreateListViewObject(form.List(), list.Receive()), S_OK);
@@ -17,8 +17,9 @@ class PlatformsContainer : public ComTest {
     static const WINBOOL registered = Function<WINBOOL(WINAPI*)()>(atl, "AtlAxWinInit")();
     const auto get = Function<HRESULT(WINAPI*)(HWND, IUnknown**)>(atl, "AtlAxGetControl");
     if (!registered) return;
-    host = UniqueWindow(CreateWindowExW(0, L"AtlAxWin", kProgId, WS_CHILD | WS_VISIBLE, 10, 10, 100,
-                                        30, form.Parent(), nullptr, nullptr, nullptr));
+    host = UniqueWindow(CreateWindowExW(0, L"AtlAxWin", (L"RowSifter." + type).c_str(),
+                                        WS_CHILD | WS_VISIBLE, 10, 10, width, 30, form.Parent(),
+                                        nullptr, nullptr, nullptr));
     ComRef<IUnknown> object;
     if (FAILED(get(host.Get(), object.Receive()))) return;
     control = object.As<IDispatch>();
@@ -35,6 +36,26 @@ class PlatformsContainer : public ComTest {
     return window;
   }
 
+  // By the user, who opens the dialog with a click on this window.
+  void FilterNames(HWND button) {
+    User user;
+    CriteriaDialog dialog(user);
+    user.Does([&] {
+      user.Clicks(button);
+      dialog.Appears();
+      EXPECT_EQ(GetWindow(CriteriaDialog::Window(), GW_OWNER), form.Parent());
+      dialog.Picks(0, "starts with");
+      dialog.Fills(0, 1, "a");
+      dialog.Clicks("&Apply Criteria");
+      dialog.Goes();
+    });
+    user.PumpUntilDone();
+  }
+
+  const std::wstring type;
+  const IID eventsId = Library::Built().IdOf((L"__" + type).c_str());
+  Recorder recorder;
+  EventSink events{eventsId, recorder};
   ListViewOnAForm form;
   Ref<HostListView> rows = NativeListView(form.List());
   ComRef<IDispatch> list;
@@ -42,7 +63,12 @@ class PlatformsContainer : public ComTest {
   ComRef<IDispatch> control;
 };
 
-TEST_F(PlatformsContainer, ActivatesTheControlInItsWindow) {
+class SifterInThePlatformsContainer : public PlatformsContainer {
+ protected:
+  SifterInThePlatformsContainer() : PlatformsContainer(kSifter, 100) {}
+};
+
+TEST_F(SifterInThePlatformsContainer, IsActiveInItsWindow) {
   ASSERT_TRUE(control);
   EXPECT_EQ(GetParent(ControlWindow()), host.Get());
   EXPECT_TRUE(IsWindowVisible(ControlWindow()));
@@ -52,7 +78,7 @@ TEST_F(PlatformsContainer, ActivatesTheControlInItsWindow) {
   EXPECT_EQ(box.bottom, 30);
 }
 
-TEST_F(PlatformsContainer, TheControlFollowsItsSize) {
+TEST_F(SifterInThePlatformsContainer, FollowsItsSize) {
   ASSERT_TRUE(control);
   MoveWindow(host.Get(), 0, 0, 200, 50, TRUE);
   RECT box;
@@ -61,29 +87,64 @@ TEST_F(PlatformsContainer, TheControlFollowsItsSize) {
   EXPECT_EQ(box.bottom, 50);
 }
 
-TEST_F(PlatformsContainer, AUserFiltersInIt) {
+TEST_F(SifterInThePlatformsContainer, LetsAUserFilter) {
   ASSERT_TRUE(control);
-  Recorder recorder;
-  EventSink events(Library::Built().IdOf(L"__TSRowSifter"), recorder);
-  const Connection connection(control.Get(), Library::Built().IdOf(L"__TSRowSifter"), &events);
+  const Connection connection(control.Get(), eventsId, &events);
   PutRef(control, L"Listview", ObjectValue(list.Get()));
-  User user;
-  CriteriaDialog dialog(user);
-  user.Does([&] {
-    user.Clicks(ControlWindow());
-    dialog.Appears();
-    EXPECT_EQ(GetWindow(CriteriaDialog::Window(), GW_OWNER), form.Parent());
-    dialog.Picks(0, "starts with");
-    dialog.Fills(0, 1, "a");
-    dialog.Clicks("&Apply Criteria");
-    dialog.Goes();
-  });
-  user.PumpUntilDone();
+  FilterNames(ControlWindow());
   EXPECT_EQ(FirstTexts(*rows), (Strings{"Ash"}));
   EXPECT_TRUE(recorder.Shows({"event 1"}));
 }
 
-TEST_F(PlatformsContainer, LetsGoOfTheControlWithItsWindow) {
+class BannerInThePlatformsContainer : public PlatformsContainer {
+ protected:
+  BannerInThePlatformsContainer() : PlatformsContainer(kBanner, 300) {}
+
+  BannerWindows Windows() const { return BannerWindows(ControlWindow()); }
+  std::string Caption() const { return WindowText(Windows().Caption()).ToUtf8(); }
+  int RightEdgeOf(HWND window) const {
+    RECT box;
+    GetWindowRect(window, &box);
+    MapWindowPoints(nullptr, host.Get(), reinterpret_cast<POINT*>(&box), 2);
+    return box.right;
+  }
+};
+
+TEST_F(BannerInThePlatformsContainer, IsActiveInItsWindow) {
+  ASSERT_TRUE(control);
+  EXPECT_EQ(GetParent(ControlWindow()), host.Get());
+  EXPECT_EQ(Caption(), "Displaying All Items");
+  EXPECT_TRUE(IsWindowVisible(Windows().Filter()));
+  EXPECT_FALSE(IsWindowVisible(Windows().Extra()));
+}
+
+TEST_F(BannerInThePlatformsContainer, FollowsItsSize) {
+  ASSERT_TRUE(control);
+  EXPECT_EQ(RightEdgeOf(Windows().Filter()), 298);
+  MoveWindow(host.Get(), 0, 0, 400, 50, TRUE);
+  EXPECT_EQ(RightEdgeOf(Windows().Filter()), 398);
+}
+
+TEST_F(BannerInThePlatformsContainer, LetsAUserFilterAndSaysWhatIsLeft) {
+  ASSERT_TRUE(control);
+  const Connection connection(control.Get(), eventsId, &events);
+  PutRef(control, L"Listview", ObjectValue(list.Get()));
+  EXPECT_EQ(Caption(), "Displaying all Items");
+  FilterNames(Windows().Filter());
+  EXPECT_EQ(FirstTexts(*rows), (Strings{"Ash"}));
+  EXPECT_EQ(Caption(), "Displaying 1 of 3 Items");
+  EXPECT_TRUE(recorder.Shows({"event 1"}));
+  rows->ListItems()->Clear();
+  EXPECT_EQ(Caption(), "Displaying 0 of 3 Items");
+}
+
+class EitherInThePlatformsContainer : public PlatformsContainer,
+                                      public testing::WithParamInterface<const wchar_t*> {
+ protected:
+  EitherInThePlatformsContainer() : PlatformsContainer(GetParam(), 300) {}
+};
+
+TEST_P(EitherInThePlatformsContainer, GoesWithItsWindow) {
   ASSERT_TRUE(control);
   PutRef(control, L"Listview", ObjectValue(list.Get()));
   const HWND window = ControlWindow();
@@ -92,6 +153,9 @@ TEST_F(PlatformsContainer, LetsGoOfTheControlWithItsWindow) {
   EXPECT_FALSE(IsWindow(window));
   EXPECT_EQ(Library::Built().CanUnload(), S_OK);
 }
+
+INSTANTIATE_TEST_SUITE_P(OfBothControls, EitherInThePlatformsContainer,
+                         testing::Values(kSifter, kBanner), ControlName);
 
 }  // namespace
 

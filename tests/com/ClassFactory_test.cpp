@@ -29,9 +29,9 @@ ComRef<IClassFactory> Factory() {
 
 HRESULT CanUnload() { return Library::Built().CanUnload(); }
 
-TEST(ClassFactory, IsThereForTheButtonOnly) {
+TEST(ClassFactory, IsThereForTheControlsOnly) {
   void* object = &object;
-  EXPECT_EQ(ClassObjectExport()(__uuidof(::TSLvwBannerFilter), IID_IClassFactory, &object),
+  EXPECT_EQ(ClassObjectExport()(__uuidof(__TSRowSifter), IID_IClassFactory, &object),
             CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(object, nullptr);
   EXPECT_EQ(ClassObjectExport()(__uuidof(_TSRowSifter), IID_IClassFactory, &object),

@@ -9,9 +9,9 @@ namespace sifter {
 namespace {
 
 // How hosts find the control's events and listen to them.
-class Events : public HostedSifter {
+class Events : public HostedControl, public testing::WithParamInterface<const wchar_t*> {
  protected:
-  const IID eventsId = Library::Built().IdOf(L"__TSRowSifter");
+  Events() : HostedControl(GetParam()) {}
 
   void Raise() {
     Show([&] { dialog.PressesByMessage("&Hide Filter"); });
@@ -24,22 +24,22 @@ class Events : public HostedSifter {
   }
 };
 
-TEST_F(Events, TheDefaultSourceIsToldByTheClass) {
+TEST_P(Events, TheDefaultSourceIsToldByTheClass) {
   IID told{};
   const auto info = control.As<IProvideClassInfo2>();
   ASSERT_EQ(info->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &told), S_OK);
   EXPECT_EQ(told, eventsId);
   EXPECT_TRUE(FAILED(info->GetGUID(99, &told)));
-  ComRef<ITypeInfo> type;
-  ASSERT_EQ(info->GetClassInfo(type.Receive()), S_OK);
+  ComRef<ITypeInfo> information;
+  ASSERT_EQ(info->GetClassInfo(information.Receive()), S_OK);
   TYPEATTR* attributes = nullptr;
-  ASSERT_EQ(type->GetTypeAttr(&attributes), S_OK);
-  EXPECT_EQ(attributes->guid, Library::Built().IdOf(L"TSRowSifter"));
+  ASSERT_EQ(information->GetTypeAttr(&attributes), S_OK);
+  EXPECT_EQ(attributes->guid, Library::Built().IdOf(type.c_str()));
   EXPECT_EQ(attributes->typekind, TKIND_COCLASS);
-  type->ReleaseTypeAttr(attributes);
+  information->ReleaseTypeAttr(attributes);
 }
 
-TEST_F(Events, ConnectionPointsCanBeGoneThrough) {
+TEST_P(Events, ConnectionPointsCanBeGoneThrough) {
   ComRef<IEnumConnectionPoints> each;
   ASSERT_EQ(control.As<IConnectionPointContainer>()->EnumConnectionPoints(each.Receive()), S_OK);
   std::vector<IID> found;
@@ -67,7 +67,7 @@ TEST_F(Events, ConnectionPointsCanBeGoneThrough) {
   EXPECT_EQ(copy->Skip(1), S_FALSE);
 }
 
-TEST_F(Events, OthersAreNotRaised) {
+TEST_P(Events, OthersAreNotRaised) {
   ComRef<IConnectionPoint> point;
   EXPECT_EQ(control.As<IConnectionPointContainer>()->FindConnectionPoint(IID_IAdviseSink,
                                                                          point.Receive()),
@@ -75,7 +75,7 @@ TEST_F(Events, OthersAreNotRaised) {
   EXPECT_FALSE(point);
 }
 
-TEST_F(Events, EverySinkHearsThemUntilItLeaves) {
+TEST_P(Events, EverySinkHearsThemUntilItLeaves) {
   Recorder second;
   EventSink other(eventsId, second);
   {
@@ -91,7 +91,7 @@ TEST_F(Events, EverySinkHearsThemUntilItLeaves) {
                       "frame.EnableModeless False", "frame.EnableModeless True", "event 2"}));
 }
 
-TEST_F(Events, SinksMayComeAndGoInAHandler) {
+TEST_P(Events, SinksMayComeAndGoInAHandler) {
   Recorder second;
   EventSink other(eventsId, second);
   std::unique_ptr<Connection> connected;
@@ -105,7 +105,7 @@ TEST_F(Events, SinksMayComeAndGoInAHandler) {
   EXPECT_EQ(events.References(), 0);
 }
 
-TEST_F(Events, ASinkThatFailsStopsNothing) {
+TEST_P(Events, ASinkThatFailsStopsNothing) {
   Recorder second;
   EventSink other(eventsId, second);
   const Connection connected(control.Get(), eventsId, &other);
@@ -115,7 +115,7 @@ TEST_F(Events, ASinkThatFailsStopsNothing) {
   EXPECT_EQ(Get(control, L"Active"), Value(true));
 }
 
-TEST_F(Events, ConnectionsCanBeCounted) {
+TEST_P(Events, ConnectionsCanBeCounted) {
   const ComRef<IConnectionPoint> point = Point(eventsId);
   ComRef<IEnumConnections> each;
   ASSERT_EQ(point->EnumConnections(each.Receive()), S_OK);
@@ -132,7 +132,7 @@ TEST_F(Events, ConnectionsCanBeCounted) {
   EXPECT_EQ(none->Next(1, &data, &fetched), S_FALSE);
 }
 
-TEST_F(Events, AConnectionPointRefusesWhatIsNoSink) {
+TEST_P(Events, AConnectionPointRefusesWhatIsNoSink) {
   const ComRef<IConnectionPoint> point = Point(eventsId);
   PropertySink noSink(recorder);
   DWORD cookie = 5;
@@ -143,7 +143,7 @@ TEST_F(Events, AConnectionPointRefusesWhatIsNoSink) {
   EXPECT_EQ(point->Unadvise(99), CONNECT_E_NOCONNECTION);
 }
 
-TEST_F(Events, AConnectionPointMayOutliveTheHostsInterest) {
+TEST_P(Events, AConnectionPointMayOutliveTheHostsInterest) {
   const ComRef<IConnectionPoint> point = Point(eventsId);
   connection.Break();
   container.Remove();
@@ -152,7 +152,7 @@ TEST_F(Events, AConnectionPointMayOutliveTheHostsInterest) {
   EXPECT_EQ(point->GetConnectionPointContainer(source.Receive()), S_OK);
 }
 
-TEST_F(Events, FrozenEventsComeWhenTheLastFreezeEnds) {
+TEST_P(Events, FrozenEventsComeWhenTheLastFreezeEnds) {
   const auto oleControl = control.As<IOleControl>();
   EXPECT_EQ(oleControl->FreezeEvents(TRUE), S_OK);
   EXPECT_EQ(oleControl->FreezeEvents(TRUE), S_OK);
@@ -168,7 +168,9 @@ TEST_F(Events, FrozenEventsComeWhenTheLastFreezeEnds) {
   EXPECT_EQ(recorder.Lines().back(), "event 2");
 }
 
-TEST_F(Events, ChangedPropertiesAreTold) {
+INSTANTIATE_TEST_SUITE_P(OfBothControls, Events, testing::Values(kSifter, kBanner), ControlName);
+
+TEST_F(HostedSifter, TellsOfChangedProperties) {
   PropertySink properties(recorder);
   const Connection connected(control.Get(), IID_IPropertyNotifySink, &properties);
   Put(control, L"FilterCaption", u"Trees");

@@ -201,23 +201,6 @@ TEST_F(Filtering, ShowFilterFailsWhileTheDialogIsShown) {
       recorder.Shows({"frame.EnableModeless False", "frame.EnableModeless True", "event 2"}));
 }
 
-TEST_F(Filtering, AnErrorUnderAClickIsShownInABox) {
-  const std::shared_ptr<DispatchSpyLog> log = std::make_shared<DispatchSpyLog>();
-  const ComRef<IDispatch> foreign = SpyOn(list, log);
-  PutRef(control, L"Listview", ObjectValue(foreign.Get()));
-  log->failures["Count"] = {DISP_E_EXCEPTION, static_cast<HRESULT>(0x800A8B12), L"out of order"};
-  Strings box;
-  user.Does([&] {
-    user.Clicks(Button());
-    user.WaitsFor([] { return MessageBoxWindow() != nullptr; });
-    box = TextsOf(MessageBoxWindow());
-    user.Presses(VK_RETURN);
-    user.WaitsFor([] { return MessageBoxWindow() == nullptr; });
-  });
-  user.PumpUntilDone();
-  EXPECT_EQ(box, (Strings{"Error", "Error number is 35602, out of order", "OK"}));
-}
-
 TEST_F(Filtering, TheHostMayLetGoOfTheControlInAHandler) {
   events.handlers[1] = [&] {
     connection.Break();

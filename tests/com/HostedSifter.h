@@ -51,14 +51,22 @@ inline Strings DefaultFields() {
           "\"Please enter criteria to apply to your listview\""};
 }
 
+// Returns when the user has left the dialog.
+inline void ShowModally(const std::wstring& type, const ComRef<IDispatch>& control) {
+  if (type == kBanner)
+    Call(control, L"ShowFilter", {true});
+  else
+    Call(control, L"ShowFilter");
+}
+
 // The list view leaves the upper edge of its form to the control.
 inline void MakeRoomAbove(HWND listView) { MoveWindow(listView, 0, 100, 580, 280, TRUE); }
 
 // A form with a list view of five trees and a control above it, in run mode and active, whose
 // events and whose words to the container are recorded; and a user.
-class HostedSifter : public ComTest {
+class HostedControl : public ComTest {
  protected:
-  HostedSifter() {
+  explicit HostedControl(const std::wstring& name) : type(name) {
     MakeRoomAbove(form.List());
     Fill(*rows, {"Name", "Qty"},
          {{"Oak", "3"}, {"Ash", "5"}, {"Elm", "7"}, {"Larch", "9"}, {"Birch", "11"}});
@@ -69,9 +77,10 @@ class HostedSifter : public ComTest {
     recorder.Clear();
   }
 
-  // The host calls ShowFilter; meanwhile the user does this. A dialog left open is hidden then.
+  // The host calls ShowFilter, modally; meanwhile the user does this. A dialog left open is hidden
+  // then.
   void Show(const std::function<void()>& script) {
-    ShowBy([&] { Call(control, L"ShowFilter"); }, script);
+    ShowBy([&] { ShowModally(type, control); }, script);
   }
 
   // The same with another way to have the dialog shown.
@@ -93,16 +102,28 @@ class HostedSifter : public ComTest {
 
   Strings Names() { return FirstTexts(*rows); }
 
+  const std::wstring type;
+  const IID eventsId = Library::Built().IdOf((L"__" + type).c_str());
   Recorder recorder;
   ListViewOnAForm form;
   Ref<HostListView> rows = NativeListView(form.List());
   ComRef<IDispatch> list;
   Container container{form.Parent(), recorder};
-  EventSink events{Library::Built().IdOf(L"__TSRowSifter"), recorder};
-  ComRef<IDispatch> control = Create();
-  Connection connection{control.Get(), Library::Built().IdOf(L"__TSRowSifter"), &events};
+  EventSink events{eventsId, recorder};
+  ComRef<IDispatch> control = Create(type);
+  Connection connection{control.Get(), eventsId, &events};
   User user;
   CriteriaDialog dialog{user};
+};
+
+// For tests of both controls: which of them a test is about.
+inline std::string ControlName(const testing::TestParamInfo<const wchar_t*>& control) {
+  return FromWide(control.param).ToUtf8();
+}
+
+class HostedSifter : public HostedControl {
+ protected:
+  HostedSifter() : HostedControl(kSifter) {}
 };
 
 }  // namespace sifter

@@ -102,9 +102,9 @@ ComTest::~ComTest() {
   EXPECT_EQ(Library::Built().CanUnload(), S_OK) << "something of the component is still alive";
 }
 
-ComRef<IDispatch> ComTest::Create() {
+ComRef<IDispatch> ComTest::Create(const std::wstring& type) {
   CLSID id{};
-  ThrowIfFailed(CLSIDFromProgID(kProgId, &id));
+  ThrowIfFailed(CLSIDFromProgID((L"RowSifter." + type).c_str(), &id));
   ComRef<IDispatch> control;
   ThrowIfFailed(
       CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, control.ReceiveVoid()));

@@ -11,6 +11,11 @@
 namespace sifter {
 
 inline constexpr wchar_t kProgId[] = L"RowSifter.TSRowSifter";
+inline constexpr wchar_t kBannerProgId[] = L"RowSifter.TSLvwBannerFilter";
+
+// The two controls by the names of their classes, which are also in those of their interfaces.
+inline constexpr wchar_t kSifter[] = L"TSRowSifter";
+inline constexpr wchar_t kBanner[] = L"TSLvwBannerFilter";
 
 // The built component, which lies beside the program of the tests. It stays loaded until they end.
 class Library {
@@ -50,7 +55,7 @@ class ComTest : public testing::Test {
   ~ComTest() override;
 
   // A new control, as a script makes one. Throws when there is none to be had.
-  static ComRef<IDispatch> Create();
+  static ComRef<IDispatch> Create(const std::wstring& type = kSifter);
 };
 
 }  // namespace sifter

@@ -1,5 +1,5 @@
 #include "ChangedSetting.h"
-#include "HostedSifter.h"
+#include "HostedBanner.h"
 
 #include <commctrl.h>
 
@@ -8,8 +8,10 @@ namespace sifter {
 namespace {
 
 // Numbers and dates are what the user's own settings say.
-class LocaleOfTheUser : public HostedSifter {
+class FilteringByDate : public HostedControl {
  protected:
+  using HostedControl::HostedControl;
+
   void FillWith(const std::string& column, const Strings& texts) {
     rows->ListItems()->Clear();
     rows->ColumnHeaders()->Clear();
@@ -33,6 +35,20 @@ class LocaleOfTheUser : public HostedSifter {
     SendMessageW(GetParent(picker), WM_NOTIFY, change.nmhdr.idFrom,
                  reinterpret_cast<LPARAM>(&change));
   }
+
+  // One showing in which the user asks for what lies before the fifteenth of February 2005.
+  void FilterByDate() {
+    Show([&] {
+      dialog.Picks(0, "is before");
+      SetsDate(2005, 2, 15);
+      dialog.PressesByMessage("&Apply Criteria");
+    });
+  }
+};
+
+class LocaleOfTheUser : public FilteringByDate {
+ protected:
+  LocaleOfTheUser() : FilteringByDate(kSifter) {}
 };
 
 const char* const kTextOperators =
@@ -63,11 +79,7 @@ TEST_F(LocaleOfTheUser, SaysWhatIsANumber) {
 
 TEST_F(LocaleOfTheUser, SaysWhichDayComesFirst) {
   const auto before = [&] {
-    Show([&] {
-      dialog.Picks(0, "is before");
-      SetsDate(2005, 2, 15);
-      dialog.PressesByMessage("&Apply Criteria");
-    });
+    FilterByDate();
     return Names();
   };
   FillWith("Shipped", {"1/3/2005", "3/1/2005"});
@@ -75,6 +87,27 @@ TEST_F(LocaleOfTheUser, SaysWhichDayComesFirst) {
   const ChangedSetting order(LOCALE_SSHORTDATE, L"dd/MM/yyyy");
   FillWith("Shipped", {"1/3/2005", "3/1/2005"});
   EXPECT_EQ(before(), (Strings{"3/1/2005"})) << "the third of January";
+}
+
+class LocaleInTexts : public FilteringByDate {
+ protected:
+  LocaleInTexts() : FilteringByDate(kBanner) {}
+
+  Strings Texts() const {
+    return {Shown(Get(control, L"Filter")), Shown(Get(control, L"FilterInPlainEnglish"))};
+  }
+};
+
+TEST_F(LocaleInTexts, SaysHowADateIsWritten) {
+  FillWith("Shipped", {"1/3/2005", "3/1/2005"});
+  FilterByDate();
+  EXPECT_EQ(Texts(), (Strings{"\"(Shipped < #2/15/2005#)\"", "\"Shipped is before 2/15/2005\""}));
+  const ChangedSetting order(LOCALE_SSHORTDATE, L"dd.MM.yyyy");
+  const ChangedSetting separator(LOCALE_SDATE, L".");
+  FillWith("Shipped", {"25.1.2005", "1.3.2005"});
+  FilterByDate();
+  EXPECT_EQ(Texts(), (Strings{"\"(Shipped < #15.02.2005#)\"", "\"Shipped is before 15.02.2005\""}));
+  EXPECT_EQ(Names(), (Strings{"25.1.2005"}));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "Bag.h"
 #include "HostedSifter.h"
+#include "Leftovers.h"
 
 #include <map>
 
@@ -102,13 +103,14 @@ std::vector<std::wstring> Files() {
   return files;
 }
 
-class Traces : public ComTest {};
+class Traces : public ComTest, public testing::WithParamInterface<const wchar_t*> {};
 
-TEST_F(Traces, AWholeSessionLeavesNone) {
+TEST_P(Traces, AWholeSessionLeavesNone) {
   const OwnFolder folder;
   const auto registry = Registry();
   const std::wstring environment = Environment();
   const std::vector<std::wstring> files = Files();
+  const int windows = WindowsOfThisThread();
   ASSERT_GT(registry.size(), 1000u);
   {
     Recorder recorder;
@@ -119,7 +121,7 @@ TEST_F(Traces, AWholeSessionLeavesNone) {
     ASSERT_EQ(CreateListViewObject(form.List(), list.Receive()), S_OK);
     Bag bag(recorder);
     Container container(form.Parent(), recorder);
-    container.Place(Create());
+    container.Place(Create(GetParam()));
     container.Activate();
     PutRef(container.Control(), L"Listview", ObjectValue(list.Get()));
     User user;
@@ -129,16 +131,21 @@ TEST_F(Traces, AWholeSessionLeavesNone) {
       dialog.FiltersByMessages(0, "contains", "a");
       dialog.Goes();
     });
-    Call(container.Control(), L"ShowFilter");
+    ShowModally(GetParam(), container.Control());
     user.PumpUntilDone();
+    ASSERT_EQ(FirstTexts(*rows), (Strings{"Oak", "Ash"}));
+    AddRow(*rows, {"Elm"});
     Call(container.Control(), L"ResetFilter");
     container.As<IPersistPropertyBag>()->Save(&bag, TRUE, TRUE);
     container.As<IPersistPropertyBag>()->Load(&bag, nullptr);
   }
+  EXPECT_EQ(WindowsOfThisThread(), windows);
   EXPECT_TRUE(Registry() == registry);
   EXPECT_EQ(Environment(), environment);
   EXPECT_EQ(Files(), files);
 }
+
+INSTANTIATE_TEST_SUITE_P(OfBothControls, Traces, testing::Values(kSifter, kBanner), ControlName);
 
 }  // namespace
 

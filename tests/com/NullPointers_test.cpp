@@ -26,8 +26,10 @@ void Check(const std::vector<BadCall>& calls) {
 
 // Hosts that pass no place for what they ask for get an error and not a crash, and the control goes
 // on as before.
-class NullPointers : public HostedSifter {
+class NullPointersToAControl : public HostedControl {
  protected:
+  using HostedControl::HostedControl;
+
   void TearDown() override { EXPECT_EQ(FieldsOf(control), DefaultFields()); }
 
   template <class T>
@@ -38,7 +40,12 @@ class NullPointers : public HostedSifter {
   }
 };
 
-TEST_F(NullPointers, ToTheControlsOwnMembers) {
+class NullPointersToASifter : public NullPointersToAControl {
+ protected:
+  NullPointersToASifter() : NullPointersToAControl(kSifter) {}
+};
+
+TEST_F(NullPointersToASifter, ToTheControlsOwnMembers) {
   const auto sifter = control.As<_TSRowSifter>(Library::Built().IdOf(L"_TSRowSifter"));
   ASSERT_TRUE(sifter);
   Check({{"get_Listview", [&] { return sifter->get_Listview(nullptr); }},
@@ -57,7 +64,51 @@ TEST_F(NullPointers, ToTheControlsOwnMembers) {
   Put(control, L"FilterMessage", u"Please enter criteria to apply to your listview");
 }
 
-TEST_F(NullPointers, ToDispatch) {
+class NullPointersToABanner : public NullPointersToAControl {
+ protected:
+  NullPointersToABanner() : NullPointersToAControl(kBanner) {}
+};
+
+TEST_F(NullPointersToABanner, ToTheControlsOwnMembers) {
+  const auto banner = control.As<_TSLvwBannerFilter>(Library::Built().IdOf(L"_TSLvwBannerFilter"));
+  ASSERT_TRUE(banner);
+  Check({{"get_Enabled", [&] { return banner->get_Enabled(nullptr); }},
+         {"get_Listview", [&] { return banner->get_Listview(nullptr); }},
+         {"get_Active", [&] { return banner->get_Active(nullptr); }},
+         {"get_ListOfTags", [&] { return banner->get_ListOfTags(nullptr); }},
+         {"get_Filter", [&] { return banner->get_Filter(nullptr); }},
+         {"get_FilterInPlainEnglish", [&] { return banner->get_FilterInPlainEnglish(nullptr); }},
+         {"get_ItemDescription", [&] { return banner->get_ItemDescription(nullptr); }},
+         {"get_FilterMessage", [&] { return banner->get_FilterMessage(nullptr); }},
+         {"get_ColumnsToExclude", [&] { return banner->get_ColumnsToExclude(nullptr); }},
+         {"get_FilterCaption", [&] { return banner->get_FilterCaption(nullptr); }},
+         {"get_ExtraButtonVisible", [&] { return banner->get_ExtraButtonVisible(nullptr); }},
+         {"get_ExtraButtonCaption", [&] { return banner->get_ExtraButtonCaption(nullptr); }},
+         {"get_InitialSettings", [&] { return banner->get_InitialSettings(nullptr); }},
+         {"get_BannerButtonVisible", [&] { return banner->get_BannerButtonVisible(nullptr); }},
+         {"get_BannerButtonPicture", [&] { return banner->get_BannerButtonPicture(nullptr); }},
+         // A text that is null is the empty one, and a picture that is null is none.
+         {"ApplyFilter", [&] { return banner->ApplyFilter(nullptr); }, S_OK},
+         {"put_ItemDescription", [&] { return banner->put_ItemDescription(nullptr); }, S_OK},
+         {"put_ColumnsToExclude", [&] { return banner->put_ColumnsToExclude(nullptr); }, S_OK},
+         {"put_FilterMessage", [&] { return banner->put_FilterMessage(nullptr); }, S_OK},
+         {"put_FilterCaption", [&] { return banner->put_FilterCaption(nullptr); }, S_OK},
+         {"put_ExtraButtonCaption", [&] { return banner->put_ExtraButtonCaption(nullptr); }, S_OK},
+         {"putref_BannerButtonPicture", [&] { return banner->putref_BannerButtonPicture(nullptr); },
+          S_OK}});
+  EXPECT_EQ(FieldsOf(control), (Strings{"False", "\"\"", "\"\"", "\"\"", "\"\""}));
+  EXPECT_EQ(Get(control, L"ItemDescription"), Value(u""));
+  Put(control, L"FilterCaption", u"Tarvenn Software Row Sifter");
+  Put(control, L"FilterMessage", u"Please enter criteria to apply to your listview");
+}
+
+class NullPointers : public NullPointersToAControl,
+                     public testing::WithParamInterface<const wchar_t*> {
+ protected:
+  NullPointers() : NullPointersToAControl(GetParam()) {}
+};
+
+TEST_P(NullPointers, ToDispatch) {
   std::wstring name = L"FilterCaption";
   LPOLESTR names[] = {name.data()};
   DISPID id = 0;
@@ -87,15 +138,15 @@ TEST_F(NullPointers, ToDispatch) {
                                    nullptr);
           },
           DISP_E_MEMBERNOTFOUND},
-         {"GetTypeInfo of a second type",
+         {"GetTypeInfo of a second information",
           [&] {
-            ComRef<ITypeInfo> type;
-            return control->GetTypeInfo(1, 0, type.Receive());
+            ComRef<ITypeInfo> information;
+            return control->GetTypeInfo(1, 0, information.Receive());
           },
           DISP_E_BADINDEX}});
 }
 
-TEST_F(NullPointers, ToIdentityAndClass) {
+TEST_P(NullPointers, ToIdentityAndClass) {
   IID id{};
   Check({{"QueryInterface", [&] { return control->QueryInterface(IID_IUnknown, nullptr); }},
          {"GetClassInfo", [&] { return As<IProvideClassInfo2>()->GetClassInfo(nullptr); }},
@@ -107,7 +158,7 @@ TEST_F(NullPointers, ToIdentityAndClass) {
           E_INVALIDARG}});
 }
 
-TEST_F(NullPointers, ToPersistence) {
+TEST_P(NullPointers, ToPersistence) {
   Check({{"bag GetClassID", [&] { return As<IPersistPropertyBag>()->GetClassID(nullptr); }},
          {"bag Load", [&] { return As<IPersistPropertyBag>()->Load(nullptr, nullptr); }},
          {"bag Save", [&] { return As<IPersistPropertyBag>()->Save(nullptr, TRUE, TRUE); }},
@@ -121,7 +172,7 @@ TEST_F(NullPointers, ToPersistence) {
          {"storage Save", [&] { return As<IPersistStorage>()->Save(nullptr, FALSE); }}});
 }
 
-TEST_F(NullPointers, ToTheObject) {
+TEST_P(NullPointers, ToTheObject) {
   const auto object = As<IOleObject>();
   Check(
       {{"GetClientSite", [&] { return object->GetClientSite(nullptr); }},
@@ -147,7 +198,7 @@ TEST_F(NullPointers, ToTheObject) {
   EXPECT_EQ(views.References(), 0);
 }
 
-TEST_F(NullPointers, ToActivation) {
+TEST_P(NullPointers, ToActivation) {
   const RECT box{0, 0, 10, 10};
   Check(
       {{"GetWindow", [&] { return As<IOleInPlaceObject>()->GetWindow(nullptr); }},
@@ -165,7 +216,7 @@ TEST_F(NullPointers, ToActivation) {
        {"GetContentExtent", [&] { return As<IQuickActivate>()->GetContentExtent(nullptr); }}});
 }
 
-TEST_F(NullPointers, ToConnections) {
+TEST_P(NullPointers, ToConnections) {
   ComRef<IConnectionPoint> point;
   ASSERT_EQ(As<IConnectionPointContainer>()->FindConnectionPoint(IID_IPropertyNotifySink,
                                                                  point.Receive()),
@@ -183,7 +234,7 @@ TEST_F(NullPointers, ToConnections) {
        {"EnumConnections", [&] { return point->EnumConnections(nullptr); }}});
 }
 
-TEST_F(NullPointers, ToViewAndData) {
+TEST_P(NullPointers, ToViewAndData) {
   const auto view = As<IViewObject2>();
   const auto data = As<IDataObject>();
   FORMATETC format{CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT};
@@ -207,17 +258,20 @@ TEST_F(NullPointers, ToViewAndData) {
          {"EnumDAdvise", [&] { return data->EnumDAdvise(nullptr); }}});
 }
 
-TEST_F(NullPointers, ToTheExports) {
+TEST_P(NullPointers, ToTheExports) {
   using GetClass = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
   const auto getClass = reinterpret_cast<GetClass>(
       reinterpret_cast<void*>(GetProcAddress(Library::Built().Module(), "DllGetClassObject")));
-  const CLSID id = Library::Built().IdOf(L"TSRowSifter");
+  const CLSID id = Library::Built().IdOf(GetParam());
   EXPECT_EQ(getClass(id, IID_IClassFactory, nullptr), E_POINTER);
   ComRef<IClassFactory> factory;
   ASSERT_EQ(getClass(id, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
   EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
   EXPECT_EQ(factory->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
 }
+
+INSTANTIATE_TEST_SUITE_P(OfBothControls, NullPointers, testing::Values(kSifter, kBanner),
+                         ControlName);
 
 }  // namespace
 

@@ -7,9 +7,11 @@
 namespace sifter {
 
 // A control in a container that takes it through its states one by one.
-class PlacedSifter : public ComTest {
+class PlacedControl : public ComTest {
  protected:
-  PlacedSifter() { MakeRoomAbove(form.List()); }
+  explicit PlacedControl(const std::wstring& type) : control(Create(type)) {
+    MakeRoomAbove(form.List());
+  }
 
   RECT PlaceOf(HWND window) const {
     RECT box;
@@ -26,7 +28,12 @@ class PlacedSifter : public ComTest {
   Recorder recorder;
   ListViewOnAForm form;
   Container container{form.Parent(), recorder};
-  ComRef<IDispatch> control = Create();
+  ComRef<IDispatch> control;
+};
+
+class PlacedSifter : public PlacedControl {
+ protected:
+  PlacedSifter() : PlacedControl(kSifter) {}
 };
 
 }  // namespace sifter

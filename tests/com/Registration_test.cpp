@@ -16,6 +16,7 @@ namespace {
 using Lines = std::vector<std::string>;
 
 constexpr wchar_t kClass[] = L"CLSID\\{FBF76C43-511B-416B-B6CD-17FBE857CDB5}";
+constexpr wchar_t kBannerClass[] = L"CLSID\\{691EA617-5310-4E5D-8CC2-A63ADF702018}";
 constexpr wchar_t kTypeLib[] = L"TypeLib\\{EFFC7555-0D48-4B48-9669-DD0E1CA87F16}";
 constexpr wchar_t kInterface[] = L"Interface\\{F89947F5-0046-4809-846B-B94D0AECA64E}";
 constexpr wchar_t kEvents[] = L"Interface\\{5E6F693A-1AC1-4B5A-AF34-6C8552CA31CA}";
@@ -23,9 +24,13 @@ constexpr wchar_t kBannerInterface[] = L"Interface\\{B1CB62D6-7A50-4416-8400-F32
 constexpr wchar_t kBannerEvents[] = L"Interface\\{45BFB0CA-7662-477A-9677-90195CEFC208}";
 constexpr wchar_t kProgram[] = L"RowSifter.TSRowSifter";
 constexpr wchar_t kProgramOne[] = L"RowSifter.TSRowSifter.1";
+constexpr wchar_t kBannerProgram[] = L"RowSifter.TSLvwBannerFilter";
+constexpr wchar_t kBannerProgramOne[] = L"RowSifter.TSLvwBannerFilter.1";
 
-const wchar_t* const kAllKeys[] = {kClass,           kTypeLib,      kInterface, kEvents,
-                                   kBannerInterface, kBannerEvents, kProgram,   kProgramOne};
+const wchar_t* const kAllKeys[] = {
+    kClass,        kBannerClass, kTypeLib,    kInterface,     kEvents,           kBannerInterface,
+    kBannerEvents, kProgram,     kProgramOne, kBannerProgram, kBannerProgramOne,
+};
 
 #ifdef _WIN64
 constexpr char kPlatform[] = "win64";
@@ -104,53 +109,68 @@ class Registration : public testing::Test {
   const Library& library_ = Library::Built();
 };
 
-TEST_F(Registration, WritesTheClass) {
-  ASSERT_EQ(library_.Register(), S_OK);
-  EXPECT_EQ(TreeOf(HKEY_LOCAL_MACHINE, kClass),
-            (Lines{
-                ".",
-                ". [] RowSifter.TSRowSifter",
-                ".\\Control",
-                ".\\Implemented Categories",
-                ".\\Implemented Categories\\{0DE86A52-2BAA-11CF-A229-00AA003D7352}",
-                ".\\Implemented Categories\\{0DE86A53-2BAA-11CF-A229-00AA003D7352}",
-                ".\\Implemented Categories\\{0DE86A57-2BAA-11CF-A229-00AA003D7352}",
-                ".\\Implemented Categories\\{40FC6ED4-2438-11CF-A3DB-080036F12502}",
-                ".\\Implemented Categories\\{40FC6ED5-2438-11CF-A3DB-080036F12502}",
-                ".\\InprocServer32",
-                ".\\InprocServer32 [] [file]",
-                ".\\InprocServer32 [ThreadingModel] Apartment",
-                ".\\MiscStatus",
-                ".\\MiscStatus [] 0",
-                ".\\MiscStatus\\1",
-                ".\\MiscStatus\\1 [] 135569",
-                ".\\ProgID",
-                ".\\ProgID [] RowSifter.TSRowSifter.1",
-                ".\\Programmable",
-                ".\\ToolboxBitmap32",
-                ".\\ToolboxBitmap32 [] [file], 101",
-                ".\\TypeLib",
-                ".\\TypeLib [] {EFFC7555-0D48-4B48-9669-DD0E1CA87F16}",
-                ".\\Version",
-                ".\\Version [] 1.0",
-                ".\\VersionIndependentProgID",
-                ".\\VersionIndependentProgID [] RowSifter.TSRowSifter",
-            }));
+// What a class has below its identity.
+Lines ClassTree(const std::string& name, const std::string& status, const std::string& bitmap) {
+  return {
+      ".",
+      ". [] " + name,
+      ".\\Control",
+      ".\\Implemented Categories",
+      ".\\Implemented Categories\\{0DE86A52-2BAA-11CF-A229-00AA003D7352}",
+      ".\\Implemented Categories\\{0DE86A53-2BAA-11CF-A229-00AA003D7352}",
+      ".\\Implemented Categories\\{0DE86A57-2BAA-11CF-A229-00AA003D7352}",
+      ".\\Implemented Categories\\{40FC6ED4-2438-11CF-A3DB-080036F12502}",
+      ".\\Implemented Categories\\{40FC6ED5-2438-11CF-A3DB-080036F12502}",
+      ".\\InprocServer32",
+      ".\\InprocServer32 [] [file]",
+      ".\\InprocServer32 [ThreadingModel] Apartment",
+      ".\\MiscStatus",
+      ".\\MiscStatus [] 0",
+      ".\\MiscStatus\\1",
+      ".\\MiscStatus\\1 [] " + status,
+      ".\\ProgID",
+      ".\\ProgID [] " + name + ".1",
+      ".\\Programmable",
+      ".\\ToolboxBitmap32",
+      ".\\ToolboxBitmap32 [] [file], " + bitmap,
+      ".\\TypeLib",
+      ".\\TypeLib [] {EFFC7555-0D48-4B48-9669-DD0E1CA87F16}",
+      ".\\Version",
+      ".\\Version [] 1.0",
+      ".\\VersionIndependentProgID",
+      ".\\VersionIndependentProgID [] " + name,
+  };
 }
 
-TEST_F(Registration, WritesTheNamesThatHostsCreateTheControlBy) {
+TEST_F(Registration, WritesTheClasses) {
   ASSERT_EQ(library_.Register(), S_OK);
-  EXPECT_EQ(TreeOf(HKEY_LOCAL_MACHINE, kProgram),
-            (Lines{".", ". [] RowSifter.TSRowSifter", ".\\CLSID",
-                   ".\\CLSID [] {FBF76C43-511B-416B-B6CD-17FBE857CDB5}", ".\\CurVer",
-                   ".\\CurVer [] RowSifter.TSRowSifter.1"}));
-  EXPECT_EQ(TreeOf(HKEY_LOCAL_MACHINE, kProgramOne),
-            (Lines{".", ". [] RowSifter.TSRowSifter", ".\\CLSID",
-                   ".\\CLSID [] {FBF76C43-511B-416B-B6CD-17FBE857CDB5}"}));
-  for (const wchar_t* const name : {kProgram, kProgramOne}) {
-    CLSID id{};
-    EXPECT_EQ(CLSIDFromProgID(name, &id), S_OK);
-    EXPECT_EQ(id, library_.IdOf(L"TSRowSifter"));
+  EXPECT_EQ(TreeOf(HKEY_LOCAL_MACHINE, kClass),
+            ClassTree("RowSifter.TSRowSifter", "135569", "101"));
+  EXPECT_EQ(TreeOf(HKEY_LOCAL_MACHINE, kBannerClass),
+            ClassTree("RowSifter.TSLvwBannerFilter", "131473", "102"));
+}
+
+TEST_F(Registration, WritesTheNamesThatHostsCreateTheControlsBy) {
+  ASSERT_EQ(library_.Register(), S_OK);
+  const struct {
+    const wchar_t* type;
+    const char* id;
+  } controls[] = {{kSifter, "{FBF76C43-511B-416B-B6CD-17FBE857CDB5}"},
+                  {kBanner, "{691EA617-5310-4E5D-8CC2-A63ADF702018}"}};
+  for (const auto& control : controls) {
+    const std::wstring program = std::wstring(L"RowSifter.") + control.type;
+    const std::string name = FromWide(program).ToUtf8();
+    const std::string id = std::string(".\\CLSID [] ") + control.id;
+    EXPECT_EQ(
+        TreeOf(HKEY_LOCAL_MACHINE, program),
+        (Lines{".", ". [] " + name, ".\\CLSID", id, ".\\CurVer", ".\\CurVer [] " + name + ".1"}));
+    EXPECT_EQ(TreeOf(HKEY_LOCAL_MACHINE, program + L".1"),
+              (Lines{".", ". [] " + name, ".\\CLSID", id}));
+    for (const std::wstring& each : {program, program + L".1"}) {
+      CLSID found{};
+      EXPECT_EQ(CLSIDFromProgID(each.c_str(), &found), S_OK);
+      EXPECT_EQ(found, library_.IdOf(control.type));
+    }
   }
 }
 
@@ -197,7 +217,7 @@ TEST_F(Registration, LeavesNothingBehind) {
 TEST_F(Registration, RegistersNothingPrivate) {
   ASSERT_EQ(library_.Register(), S_OK);
   for (const wchar_t* const name :
-       {L"RowSifter.HookClass", L"RowSifter.frmFilter", L"RowSifter.TSLvwBannerFilter"}) {
+       {L"RowSifter.HookClass", L"RowSifter.frmFilter", L"RowSifter.frmAbout"}) {
     CLSID id{};
     EXPECT_NE(CLSIDFromProgID(name, &id), S_OK) << FromWide(name).ToUtf8();
   }

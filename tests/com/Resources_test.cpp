@@ -1,3 +1,4 @@
+#include "IconSizes.h"
 #include "Library.h"
 #include "win32/UniqueGdi.h"
 #include "win32/WideText.h"
@@ -58,9 +59,12 @@ TEST(VersionResource, SaysThatTheComponentRegistersItself) {
   EXPECT_EQ(VersionResource().TextNamed(L"OLESelfRegister"), "");
 }
 
-TEST(ToolboxBitmap, IsASmallPictureInSeveralColours) {
-  const UniqueBitmap picture(static_cast<HBITMAP>(LoadImageW(
-      Library::Built().Module(), MAKEINTRESOURCEW(101), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+class ToolboxBitmap : public testing::TestWithParam<int> {};
+
+TEST_P(ToolboxBitmap, IsASmallPictureInSeveralColours) {
+  const UniqueBitmap picture(
+      static_cast<HBITMAP>(LoadImageW(Library::Built().Module(), MAKEINTRESOURCEW(GetParam()),
+                                      IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
   ASSERT_TRUE(picture);
   BITMAP size{};
   ASSERT_NE(GetObjectW(picture.Get(), sizeof size, &size), 0);
@@ -73,6 +77,14 @@ TEST(ToolboxBitmap, IsASmallPictureInSeveralColours) {
   for (int y = 0; y < 16; ++y)
     for (int x = 0; x < 16; ++x) colours.insert(GetPixel(context.Get(), x, y));
   EXPECT_GE(colours.size(), 4u);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfBothControls, ToolboxBitmap, testing::Values(101, 102));
+
+TEST(OwnPictures, AreInTheComponentInSizesFor96To288DotsToTheInch) {
+  const std::vector<int> sizes = {16, 20, 24, 28, 32, 40, 48};
+  for (const wchar_t* const key : {L"FilterEmpty", L"FilterFull", L"print"})
+    EXPECT_EQ(IconSizes(Library::Built().Module(), key), sizes) << FromWide(key).ToUtf8();
 }
 
 }  // namespace

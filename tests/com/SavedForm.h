@@ -11,7 +11,7 @@ namespace sifter {
 // What a form that is saved keeps of its control, in each of the containers' ways.
 class SavedForm : public ComTest {
  protected:
-  SavedForm() {
+  explicit SavedForm(const std::wstring& type = kSifter) : control(Create(type)) {
     container.site.recorded = {DISPID_AMBIENT_BACKCOLOR};
     container.Offers(DISPID_AMBIENT_BACKCOLOR, 0x123456);
     container.GiveSite(control);
@@ -57,7 +57,7 @@ class SavedForm : public ComTest {
   ListViewOnAForm form;
   Bag bag{recorder};
   Container container{form.Parent(), recorder};
-  ComRef<IDispatch> control = Create();
+  ComRef<IDispatch> control;
 };
 
 inline Strings LoadedFields() {

@@ -3,6 +3,7 @@
 #include "ComFake.h"
 #include "support/Recorder.h"
 #include "win32/ComRef.h"
+#include "win32/UniqueBstr.h"
 
 #include <functional>
 #include <map>
@@ -14,12 +15,14 @@
 namespace sifter {
 
 // Listens to a control's events as late-bound hosts do: by number. Records each as "event 1", with
-// the number of arguments where it has any, and then does what the test has set for it.
+// its text by reference, or the number of arguments where it has others, and then does what the
+// test has set for it.
 class EventSink final : public ComFake<IDispatch> {
  public:
   EventSink(REFIID events, Recorder& recorder) : events_(events), recorder_(recorder) {}
 
   std::map<DISPID, std::function<void()>> handlers;
+  std::function<void(BSTR& text)> onText;  // what the sink does to an argument of an event's
   HRESULT answer = S_OK;
 
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
@@ -37,8 +40,12 @@ class EventSink final : public ComFake<IDispatch> {
                                    VARIANT*, EXCEPINFO*, UINT*) override {
     EXPECT_NE(flags & DISPATCH_METHOD, 0);
     std::string line = "event " + std::to_string(id);
-    if (parameters->cArgs > 0) line += " with " + std::to_string(parameters->cArgs);
+    BSTR* const text = TextIn(*parameters);
+    if (text != nullptr) line += " \"" + Text(BstrView(*text)).ToUtf8() + '"';
+    if (text == nullptr && parameters->cArgs > 0)
+      line += " with " + std::to_string(parameters->cArgs);
     recorder_.Line(line);
+    if (text != nullptr && onText) onText(*text);
     if (const auto found = handlers.find(id); found != handlers.end()) found->second();
     return answer;
   }
@@ -49,6 +56,11 @@ class EventSink final : public ComFake<IDispatch> {
   }
 
  private:
+  static BSTR* TextIn(const DISPPARAMS& parameters) {
+    const bool one = parameters.cArgs == 1 && parameters.rgvarg[0].vt == (VT_BYREF | VT_BSTR);
+    return one ? parameters.rgvarg[0].pbstrVal : nullptr;
+  }
+
   IID events_;
   Recorder& recorder_;
 };

@@ -75,7 +75,13 @@ HRESULT Site::DiscardUndoState() { return Note("DiscardUndoState", E_NOTIMPL); }
 
 HRESULT Site::DeactivateAndUndo() { return Note("DeactivateAndUndo", E_NOTIMPL); }
 
-HRESULT Site::OnPosRectChange(const RECT*) { return Note("OnPosRectChange"); }
+HRESULT Site::OnPosRectChange(const RECT* wanted) {
+  recorder_.Line("OnPosRectChange " + std::to_string(wanted->left) + ' ' +
+                 std::to_string(wanted->top) + ' ' + std::to_string(wanted->right) + ' ' +
+                 std::to_string(wanted->bottom));
+  if (onRoom) onRoom(*wanted);
+  return S_OK;
+}
 
 HRESULT Site::OnControlInfoChanged() { return Note("OnControlInfoChanged"); }
 

@@ -28,9 +28,10 @@ class Site final : public ComFake<IOleClientSite, IOleInPlaceSite, IOleControlSi
   std::set<DISPID> recorded;  // reading these makes a line: "ambient -701"
 
   RECT position{10, 10, 110, 40};
-  HRESULT canActivate = S_OK;   // the answer to CanInPlaceActivate
-  HRESULT takesKey = S_FALSE;   // the answer to TranslateAccelerator
-  std::function<void()> onKey;  // what the container does with a key meanwhile
+  HRESULT canActivate = S_OK;               // the answer to CanInPlaceActivate
+  HRESULT takesKey = S_FALSE;               // the answer to TranslateAccelerator
+  std::function<void()> onKey;              // what the container does with a key meanwhile
+  std::function<void(const RECT&)> onRoom;  // and when the control asks for another place
 
   // IOleClientSite
   HRESULT STDMETHODCALLTYPE SaveObject() override;

@@ -50,7 +50,7 @@ TEST_F(BannerAttaching, AsksForTheMessagesInTheirOrder) {
     Messages asked;
     for (const std::uint32_t message : order)
       if (control.LVHook.Messages(message)) asked.push_back(message);
-    EXPECT_EQ(asked, Messages(order.begin(), order.begin() + room));
+    EXPECT_EQ(asked, Messages(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(room)));
     control.LVHook.SetMessages(kFirst + room, false);
   }
 }

@@ -79,7 +79,8 @@ TEST_F(FolderListTest, FillAgainLeavesNothingOfTheFormerRows) {
 TEST_F(FolderListTest, FollowTouchesOnlyWhatDiffers) {
   list_->Fill({File(L"b"), File(L"c", L"1"), File(L"d"), File(L"f")});
   Forget();
-  list_->Follow({File(L"a"), File(L"c", L"2"), File(L"d"), File(L"e"), File(L"f"), File(L"g")});
+  list_->Follow({File(L"a"), File(L"c", L"2"), File(L"d"), File(L"e"), File(L"f"), File(L"g")},
+                false);
   EXPECT_EQ(Shown(), (Names{L"a", L"c", L"d", L"e", L"f", L"g"}));
   EXPECT_EQ(CellOf(list_->Window(), 1, 2), L"2");
   EXPECT_EQ(inserted_, 3);
@@ -90,15 +91,55 @@ TEST_F(FolderListTest, FollowTouchesOnlyWhatDiffers) {
 TEST_F(FolderListTest, FollowWithoutDifferenceDoesNothing) {
   list_->Fill({File(L"a"), File(L"b")});
   Forget();
-  list_->Follow({File(L"a"), File(L"b")});
+  list_->Follow({File(L"a"), File(L"b")}, false);
   EXPECT_EQ(inserted_ + deleted_ + cleared_, 0);
 }
 
 TEST_F(FolderListTest, FollowFillsAnewWhenRowsWereTakenOut) {
   list_->Fill({File(L"a"), File(L"b"), File(L"c")});
   ListView_DeleteItem(list_->Window(), 0);
-  list_->Follow({File(L"a"), File(L"b"), File(L"d")});
+  list_->Follow({File(L"a"), File(L"b"), File(L"d")}, false);
   EXPECT_EQ(Shown(), (Names{L"a", L"b", L"d"}));
+}
+
+TEST_F(FolderListTest, FollowUnderAFilterLeavesHiddenRowsAsTheyAre) {
+  list_->Fill({File(L"a"), File(L"b", L"1"), File(L"c"), File(L"d", L"1"), File(L"e")});
+  ListView_DeleteItem(list_->Window(), 0);  // a, as a filter does it
+  ListView_DeleteItem(list_->Window(), 2);  // d
+  Forget();
+  // a is gone, c too, b and d have changed, f has come.
+  list_->Follow({File(L"b", L"2"), File(L"d", L"2"), File(L"e"), File(L"f")}, true);
+  EXPECT_EQ(Shown(), (Names{L"b", L"e", L"f"}));
+  EXPECT_EQ(CellOf(list_->Window(), 0, 2), L"2");
+  EXPECT_EQ(list_->Total(), 5);
+  EXPECT_EQ(inserted_, 2);  // b anew, and f
+  EXPECT_EQ(deleted_, 2);
+  EXPECT_EQ(cleared_, 0);
+}
+
+TEST_F(FolderListTest, FollowUnderAFilterPassesOverAFileThatReturnsToAHiddenRow) {
+  list_->Fill({File(L"a"), File(L"b")});
+  ListView_DeleteItem(list_->Window(), 0);
+  list_->Follow({File(L"b")}, true);
+  list_->Follow({File(L"a", L"9"), File(L"b")}, true);
+  EXPECT_EQ(Shown(), (Names{L"b"}));
+  EXPECT_EQ(list_->Total(), 2);
+}
+
+TEST_F(FolderListTest, FollowKeepsTheOrderThatTheUserHasChosen) {
+  list_->Fill({File(L"a"), File(L"b"), File(L"d")});
+  const Automation list{ComRef<IDispatch>(list_->Object())};
+  list.Put(L"SortOrder", Variant(1));
+  list.Put(L"Sorted", Variant(true));
+  list_->Follow({File(L"b", L"2"), File(L"c"), File(L"d")}, false);
+  EXPECT_EQ(Shown(), (Names{L"d", L"c", L"b"}));
+  EXPECT_EQ(CellOf(list_->Window(), 2, 2), L"2");
+}
+
+TEST_F(FolderListTest, TextOfRowsHasALineForEachRowThatIsShown) {
+  list_->Fill({File(L"a", L"10"), File(L"b", L"20"), File(L"c", L"30")});
+  ListView_DeleteItem(list_->Window(), 1);
+  EXPECT_EQ(list_->TextOfRows(), L"a\t\t10\t\t\r\nc\t\t30\t\t\r\n");
 }
 
 TEST_F(FolderListTest, EntryAtGoesByTheRowsThatAreLeft) {

@@ -1,5 +1,6 @@
 #include "Program.h"
 #include "RegisteredControl.h"
+#include "user/Banner.h"
 #include "user/FilterDialog.h"
 #include "user/Hands.h"
 #include "user/RemoteList.h"
@@ -74,6 +75,35 @@ TEST_F(ScriptExamples, EventsArriveInTheProceduresOfTheirName) {
   EXPECT_EQ(end.output,
             "FilterActivated: Lisbon Porto Braga\n"
             "FilterDeactivated: Lisbon Porto Braga Tallinn Tartu Bergen Trondheim Wellington\n");
+  EXPECT_EQ(end.code, 0);
+}
+
+TEST_F(ScriptExamples, TheBannerFiltersByATextAndFollowsTheList) {
+  Program program(OurHost(L"banner.vbs"));
+  const HWND window = WaitForWindow(L"RowSifterScript");
+  WaitForBannerCaption(window, L"Displaying 3 of 8 towns");
+  Click(HostButtonOf(window));
+  WaitForBannerCaption(window, L"Displaying 4 of 10 towns");
+  Click(FilterButtonOf(window));
+  {
+    FilterDialog dialog;
+    EXPECT_EQ(CaptionOf(dialog.Window()), L"Which towns?");
+    dialog.Leave(L"&Reset Filter");
+  }
+  WaitForBannerCaption(window, L"Displaying 10 of 10 towns");
+  PostMessageW(window, WM_CLOSE, 0, 0);
+  const Program::End end = program.WaitForEnd();
+  EXPECT_EQ(end.output,
+            "ListOfTags: ,LIS,OPO,BGZ,TLL,TAY,BGO,TRD,WLG\n"
+            "FilterActivated: Lisbon Porto Braga\n"
+            "Active: True\n"
+            "ListOfTags: ,LIS,OPO,BGZ\n"
+            "Filter: (Country = 'Portugal')\n"
+            "FilterInPlainEnglish: Country equals Portugal\n"
+            "Active: True\n"
+            "ExtraButtonClicked(): Lisbon Porto Braga Faro Oslo\n"
+            "FilterDeactivated: Lisbon Porto Braga Tallinn Tartu Bergen Trondheim Wellington Faro "
+            "Oslo\n");
   EXPECT_EQ(end.code, 0);
 }
 

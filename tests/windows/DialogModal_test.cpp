@@ -206,7 +206,7 @@ TEST_F(DialogModeless, LeavesTheHostEnabledAndItsKeysWork) {
   ShowModeless([&] {
     EXPECT_TRUE(dialog.Visible());
     EXPECT_TRUE(HostIsEnabled());
-    EXPECT_EQ(GetWindow(Window(), GW_OWNER), hostForm.Parent());
+    EXPECT_EQ(GetWindow(Window(), GW_OWNER), nullptr);
     Lines visited;
     for (int i = 0; i < 4; ++i) {
       visited.push_back(Focused());
@@ -229,6 +229,16 @@ TEST_F(DialogModeless, TakesNoFocusFromTheHostWhenItHidesBehindIt) {
     SetFocus(hostForm.Parent());
     dialog.Hide();
     EXPECT_EQ(GetFocus(), hostForm.Parent());
+  });
+}
+
+TEST_F(DialogModeless, StaysWhenTheHostsFormGoes) {
+  ShowModeless([&] {
+    hostForm.Destroy();
+    EXPECT_TRUE(dialog.Visible());
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    dialog.Hide();
+    EXPECT_FALSE(IsWindowVisible(Window()));
   });
 }
 

@@ -55,6 +55,34 @@ TEST_F(LateBound, NothingIsReadBeforeItIsNeeded) {
   EXPECT_EQ(CallsOf([&] { list->ListItems()->Count(); }), (Strings{"get ListItems", "get Count"}));
 }
 
+// What nothing shows refuses it.
+TEST_F(LateBound, SetFocusIsCalledByName) {
+  EXPECT_EQ(CallsOf([&] { EXPECT_EQ(ErrorOf([&] { Open()->SetFocus(); }), kMissingMemberError); }),
+            Strings{"call SetFocus()"});
+}
+
+TEST_F(LateBound, AListWithoutSetFocusIsError438) {
+  log->lacking = {"SetFocus"};
+  EXPECT_EQ(CallsOf([&] { EXPECT_EQ(ErrorOf([&] { Open()->SetFocus(); }), kMissingMemberError); }),
+            Strings{"no SetFocus"});
+}
+
+TEST_F(LateBound, ErrorsOfSetFocusKeepTheirNumbersAndTexts) {
+  log->failures["SetFocus"] = {DISP_E_EXCEPTION, static_cast<HRESULT>(0x800A0005), L"is hidden"};
+  EXPECT_EQ(ErrorOf([&] { Open()->SetFocus(); }), "5: is hidden");
+}
+
+TEST_F(LateBound, ListsOfOneObjectHaveOneIdentity) {
+  ComObjectFake one;
+  ComObjectFake other;
+  const auto list = MakeRef<LateBoundList>(ComRef<IDispatch>(&one));
+  EXPECT_EQ(list->Identity(), one.Identity());
+  EXPECT_EQ(MakeRef<LateBoundList>(ComRef<IDispatch>(&one))->Identity(), list->Identity());
+  EXPECT_NE(MakeRef<LateBoundList>(ComRef<IDispatch>(&other))->Identity(), list->Identity());
+  EXPECT_EQ(one.References(), 1);
+  EXPECT_EQ(other.References(), 0);
+}
+
 TEST_F(LateBound, RowsAreAskedForByPositionAndByKey) {
   memory->ListItems()->Item(2)->SetKey(u"k1");
   const Ref<LateBoundList> list = Open();

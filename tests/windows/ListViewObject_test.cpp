@@ -50,7 +50,7 @@ class ListViewObject : public testing::Test {
 
 TEST_F(ListViewObject, HasTheMembersOfTheModel) {
   const Strings members[] = {
-      {"ColumnHeaders", "ListItems", "hWnd", "Sorted", "SortKey", "SortOrder"},
+      {"ColumnHeaders", "ListItems", "hWnd", "Sorted", "SortKey", "SortOrder", "SetFocus"},
       {"Item", "Count", "Add", "Clear", "_NewEnum"},
       {"Index", "Key", "Text", "Width", "Alignment", "Icon", "Tag"},
       {"Item", "Count", "Add", "Clear", "Remove", "_NewEnum"},

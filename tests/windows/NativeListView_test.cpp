@@ -326,14 +326,14 @@ TEST_F(NativeListViewTest, ClicksOnHeadersAreToldBehindTheParent) {
     if (notice.code == LVN_COLUMNCLICK) recorder.Line("parent");
     return LRESULT{0};
   });
-  SetColumnClick(Window(),
-                 [&](std::int32_t column) { recorder.Line("column " + std::to_string(column)); });
+  Ref<Object> watching = list->WatchColumnClicks(
+      [&](std::int32_t column) { recorder.Line("column " + std::to_string(column)); });
   NMLISTVIEW click{};
   click.hdr = {Window(), 1, LVN_COLUMNCLICK};
   click.iItem = -1;
   click.iSubItem = 1;
   SendMessageW(form.Parent(), WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&click));
-  SetColumnClick(Window(), {});
+  watching = nullptr;
   SendMessageW(form.Parent(), WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&click));
   form.OnNotice({});
   EXPECT_TRUE(recorder.Shows({"parent", "column 2", "parent"}));

@@ -1,6 +1,6 @@
-#include "library/ConnectionPoint.h"
+#include "win32/ConnectionPoint.h"
 
-#include "library/ComEnum.h"
+#include "win32/ComEnum.h"
 
 #include <olectl.h>
 

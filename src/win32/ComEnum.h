@@ -1,8 +1,8 @@
 #pragma once
 
-#include "library/Module.h"
 #include "win32/ComRef.h"
 #include "win32/ComResult.h"
+#include "win32/ModuleUse.h"
 
 #include <cstddef>
 #include <new>

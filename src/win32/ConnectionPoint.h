@@ -1,6 +1,6 @@
 #pragma once
 
-#include "library/ComPart.h"
+#include "win32/ComRef.h"
 
 #include <map>
 #include <ocidl.h>
