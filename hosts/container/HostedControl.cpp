@@ -93,7 +93,12 @@ void HostedControl::Listen(EventHandler handler) {
   sink_ = std::make_unique<EventSink>(ole_.Get(), std::move(handler));
 }
 
-void HostedControl::TakeFocus() { Activate(OLEIVERB_UIACTIVATE); }
+// To a control that counts as active already, though the focus has gone elsewhere since, activating
+// it again would mean nothing.
+void HostedControl::TakeFocus() {
+  if (state_->control && !HasFocus()) state_->control->UIDeactivate();
+  Activate(OLEIVERB_UIACTIVATE);
+}
 
 bool HostedControl::HasFocus() const {
   const HWND focus = GetFocus();

@@ -22,6 +22,17 @@ std::wstring ChooseFolder(HWND owner) {
   return path;
 }
 
+// The second entry of the list of operators, from 0, is "contains": Name contains "crypt".
+constexpr wchar_t kSampleFilter[] = L"Name..11==crypt2==*?";
+
+void Enable(HMENU menu, UINT item, bool enabled) {
+  EnableMenuItem(menu, item, enabled ? MF_ENABLED : MF_GRAYED);
+}
+
+void CheckMark(HMENU menu, UINT item, bool checked) {
+  CheckMenuItem(menu, item, checked ? MF_CHECKED : MF_UNCHECKED);
+}
+
 }  // namespace
 
 void DemoWindow::Command(int id) {
@@ -33,25 +44,34 @@ void DemoWindow::Command(int id) {
     case IDM_RELOAD:
       return OpenFolder(folder_);
     case IDM_EXIT:
-      PostMessageW(window_, WM_CLOSE, 0, 0);
+      PostMessageW(Window(), WM_CLOSE, 0, 0);
       return;
     case IDM_SHOW_FILTER:
-      return CallControl(L"ShowFilter");
+      // The banner's dialog is modeless unless it is told.
+      return banner_ ? CallControl(L"ShowFilter", {Variant(true)}) : CallControl(L"ShowFilter");
     case IDM_APPLY_FILTER:
-      return CallControl(L"ApplyFilter", {control_->Object().Get(L"Filter")});
+      return CallControl(L"ApplyFilter", {Variant(kSampleFilter)});
     case IDM_RESET_FILTER:
       return CallControl(L"ResetFilter");
     case IDM_TURN_OFF_FILTER:
       return CallControl(L"TurnOffFilter");
+    case IDM_DEACTIVATE_FILTER:
+      CallControl(L"DeactivateFilter");
+      return OpenFolder(folder_);
     case IDM_ACTIVE:
       return ToggleActive();
+    case IDM_TELL_FILTER:
+      return TellFilter();
+    case IDM_BUTTON_CONTROL:
+      OpenFolder(folder_);
+      return UseControl(!banner_);
     default:
       return;
   }
 }
 
 void DemoWindow::OpenChosenFolder() {
-  const std::wstring folder = ChooseFolder(window_);
+  const std::wstring folder = ChooseFolder(Window());
   if (!folder.empty()) OpenFolder(folder);
 }
 
@@ -61,28 +81,27 @@ void DemoWindow::OpenFocusedFolder() {
   if (entry != nullptr && entry->isFolder) OpenFolder(folder_ + L"\\" + entry->name);
 }
 
-void DemoWindow::CallControl(const wchar_t* method, std::initializer_list<Variant> arguments) {
-  status_->AddEvent(method);
-  control_->Object().Call(method, arguments);
-}
-
+// The banner gives up the rows that its filter took out; the folder has them still. The button
+// keeps its filter.
 void DemoWindow::ToggleActive() {
   const bool active = control_->Object().Get(L"Active").Truth();
   status_->AddEvent(active ? L"Active = False" : L"Active = True");
   control_->Object().Put(L"Active", Variant(!active));
+  if (banner_ && active) OpenFolder(folder_);
+}
+
+void DemoWindow::TellFilter() {
+  const std::wstring filter = control_->Object().Get(L"Filter").Text();
+  const std::wstring words = control_->Object().Get(L"FilterInPlainEnglish").Text();
+  const std::wstring text = L"Filter: " + filter + L"\nFilterInPlainEnglish: " + words;
+  MessageBoxW(Window(), text.c_str(), L"Files", MB_OK);
 }
 
 void DemoWindow::UpdateMenu(HMENU menu) const {
-  const bool active = control_->Object().Get(L"Active").Truth();
-  CheckMenuItem(menu, IDM_ACTIVE, active ? MF_CHECKED : MF_UNCHECKED);
-}
-
-// Rows are not touched from inside an event: the control is still at it.
-void DemoWindow::ControlRaised(const std::wstring& event) {
-  status_->AddEvent(event);
-  filtered_ = event == L"FilterActivated";
-  ShowCount();
-  if (changed_) PostMessageW(window_, WM_TIMER, 0, 0);
+  CheckMark(menu, IDM_ACTIVE, control_->Object().Get(L"Active").Truth());
+  CheckMark(menu, IDM_BUTTON_CONTROL, !banner_);
+  Enable(menu, IDM_DEACTIVATE_FILTER, banner_);
+  Enable(menu, IDM_TELL_FILTER, banner_);
 }
 
 }  // namespace hosts

@@ -1,6 +1,8 @@
 #include "container/Failure.h"
 #include "demo/DemoWindow.h"
 
+#include <utility>
+
 namespace hosts {
 
 namespace {
@@ -30,12 +32,13 @@ void DemoWindow::OpenFolder(const std::wstring& folder) {
   std::vector<FolderEntry> entries = ReadFolder(full);
   folder_ = full;
   watch_ = std::move(watch);
-  filtered_ = false;
   changed_ = false;
+  behind_ = false;
+  ForgetFilter();
   list_->Fill(std::move(entries));
   list_->FocusFirstRow();
   SetWindowTextW(label_, ForDisplay(folder_).c_str());
-  SetWindowTextW(window_, (ForDisplay(folder_) + L" - Files").c_str());
+  SetWindowTextW(Window(), (ForDisplay(folder_) + L" - Files").c_str());
   status_->ShowNote(L"");
   ShowCount();
 }
@@ -48,28 +51,41 @@ void DemoWindow::OpenParentFolder() {
 void DemoWindow::FolderChanged() {
   watch_.Rearm();
   changed_ = true;
-  SetTimer(window_, kFollowTimer, kQuietMilliseconds, nullptr);
+  SetTimer(Window(), kFollowTimer, kQuietMilliseconds, nullptr);
 }
 
-bool DemoWindow::ListIsOurs() const { return !filtered_ && modal_ == 0; }
-
+// Not while the dialog is open, and with the button control not under its filter.
 void DemoWindow::FollowFolder() {
-  KillTimer(window_, kFollowTimer);
-  if (!changed_) return;
-  if (!ListIsOurs()) {
+  KillTimer(Window(), kFollowTimer);
+  const bool filtered = Filtered();
+  const bool again = behind_ && !filtered;
+  if (!changed_ && !again) return;
+  if (modal_ > 0 || (filtered && !banner_)) {
     status_->ShowNote(L"The folder has changed: filter is on");
     return;
   }
   changed_ = false;
+  behind_ = filtered;
   try {
-    list_->Follow(ReadFolder(folder_));
+    std::vector<FolderEntry> entries = ReadFolder(folder_);
+    if (again)
+      list_->Fill(std::move(entries));
+    else
+      list_->Follow(std::move(entries), filtered);
     status_->ShowNote(L"");
   } catch (const Failure& failure) {
     status_->ShowNote(failure.Description());
   }
-  ShowCount();
 }
 
-void DemoWindow::ShowCount() { status_->ShowCount(list_->Shown(), list_->Total()); }
+// The list tells of each row, and before it goes; the count is right when it has done.
+void DemoWindow::CountChanged() {
+  if (!std::exchange(counting_, true)) PostMessageW(Window(), kCountMessage, 0, 0);
+}
+
+void DemoWindow::ShowCount() {
+  counting_ = false;
+  status_->ShowCount(list_->Shown(), list_->Total());
+}
 
 }  // namespace hosts

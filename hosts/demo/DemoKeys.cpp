@@ -3,8 +3,8 @@
 namespace hosts {
 
 int DemoWindow::Run(int show) {
-  ShowWindow(window_, show);
-  UpdateWindow(window_);
+  ShowWindow(Window(), show);
+  UpdateWindow(Window());
   SetFocus(list_->Window());
   for (;;) {
     const HANDLE changed = watch_.Handle();
@@ -23,9 +23,9 @@ int DemoWindow::Run(int show) {
 }
 
 bool DemoWindow::TranslateKey(MSG& message) {
-  if (control_ == nullptr || GetActiveWindow() != window_) return false;
+  if (control_ == nullptr || GetActiveWindow() != Window()) return false;
   if (control_->TranslateKey(message)) return true;
-  if (TranslateAcceleratorW(window_, keys_, &message)) return true;
+  if (TranslateAcceleratorW(Window(), keys_, &message)) return true;
   if (message.message == WM_KEYDOWN && message.wParam == VK_TAB && GetFocus() == list_->Window()) {
     control_->TakeFocus();
     return true;

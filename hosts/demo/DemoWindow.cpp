@@ -1,6 +1,5 @@
 #include "demo/DemoWindow.h"
 
-#include "container/Failure.h"
 #include "container/Measures.h"
 #include "demo/Resources.h"
 
@@ -12,26 +11,14 @@ namespace hosts {
 namespace {
 
 constexpr wchar_t kWindowClass[] = L"RowSifterDemo";
-constexpr wchar_t kControl[] = L"RowSifter.TSRowSifter";
 
 // Pixels at 96 dots per inch.
 constexpr SIZE kWindowSize = {760, 520};
 constexpr SIZE kSmallestSize = {420, 260};
 constexpr int kMargin = 6;
-constexpr SIZE kControlSize = {96, 28};
-
-void RegisterWindowClass(WNDPROC procedure) {
-  WNDCLASSEXW windowClass{};
-  windowClass.cbSize = sizeof windowClass;
-  windowClass.lpfnWndProc = procedure;
-  windowClass.hInstance = GetModuleHandleW(nullptr);
-  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  windowClass.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
-  windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-  windowClass.lpszMenuName = MAKEINTRESOURCEW(IDR_MENU);
-  windowClass.lpszClassName = kWindowClass;
-  RegisterClassExW(&windowClass);
-}
+constexpr int kLabelHeight = 16;
+constexpr int kControlHeight = 28;
+constexpr int kButtonWidth = 96;
 
 // Of the screen, without the parts that belong to the system.
 void PutInTheMiddle(HWND window, SIZE size) {
@@ -54,58 +41,45 @@ HFONT MessageFont() {
 DemoWindow::DemoWindow(const std::wstring& folder)
     : font_(MessageFont()),
       keys_(LoadAcceleratorsW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDR_KEYS))) {
-  MakeWindow();
+  Make({kWindowClass, L"Files", IDR_MENU}, L"Files");
+  PutInTheMiddle(Window(), {Scaled(kWindowSize.cx, Window()), Scaled(kWindowSize.cy, Window())});
   MakeChildren();
+  UseControl(true);
   OpenFolder(folder);
 }
 
 DemoWindow::~DemoWindow() {
-  if (window_ != nullptr) DestroyWindow(window_);
+  if (Window() != nullptr) DestroyWindow(Window());
   DeleteObject(font_);
-}
-
-void DemoWindow::MakeWindow() {
-  RegisterWindowClass(Procedure);
-  CreateWindowExW(0, kWindowClass, L"Files", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
-                  CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
-                  GetModuleHandleW(nullptr), this);
-  if (window_ == nullptr) ThrowLastError(L"Making the window");
-  PutInTheMiddle(window_, {Scaled(kWindowSize.cx, window_), Scaled(kWindowSize.cy, window_)});
 }
 
 void DemoWindow::MakeChildren() {
   label_ = CreateWindowExW(
       0, L"STATIC", nullptr,
       WS_CHILD | WS_VISIBLE | SS_LEFTNOWORDWRAP | SS_NOPREFIX | SS_CENTERIMAGE | SS_PATHELLIPSIS, 0,
-      0, 0, 0, window_, reinterpret_cast<HMENU>(IDC_FOLDER), GetModuleHandleW(nullptr), nullptr);
+      0, 0, 0, Window(), reinterpret_cast<HMENU>(IDC_FOLDER), GetModuleHandleW(nullptr), nullptr);
   SendMessageW(label_, WM_SETFONT, reinterpret_cast<WPARAM>(font_), TRUE);
-  list_ = std::make_unique<FolderList>(window_, IDC_LIST);
-  status_ = std::make_unique<StatusLine>(window_, IDC_STATUS);
-  frame_ = std::make_unique<ControlFrame>(window_, [this](bool modeless) {
+  list_ = std::make_unique<FolderList>(Window(), IDC_LIST);
+  status_ = std::make_unique<StatusLine>(Window(), IDC_STATUS);
+  frame_ = std::make_unique<ControlFrame>(Window(), [this](bool modeless) {
     modal_ += modeless ? -1 : 1;
-    if (modal_ == 0 && changed_) PostMessageW(window_, WM_TIMER, 0, 0);
+    if (modal_ == 0) FollowSoon();
   });
-  const RECT nowhere{};
-  control_ =
-      std::make_unique<HostedControl>(*frame_, window_, kControl, nowhere,
-                                      [this](const MSG& key) { return FocusFromControl(key); });
-  control_->Listen(
-      [this](const std::wstring& event, const std::vector<VARIANT*>&) { ControlRaised(event); });
-  control_->Object().PutReference(L"Listview", list_->Object());
-  Layout();
 }
 
 void DemoWindow::Layout() {
   if (control_ == nullptr) return;
   status_->Layout();
   RECT inner{};
-  GetClientRect(window_, &inner);
-  const int margin = Scaled(kMargin, window_);
-  const int width = Scaled(kControlSize.cx, window_);
-  const int height = Scaled(kControlSize.cy, window_);
-  const int top = 2 * margin + height;
-  control_->Place({margin, margin, margin + width, margin + height});
-  MoveWindow(label_, 2 * margin + width, margin, inner.right - width - 3 * margin, height, TRUE);
+  GetClientRect(Window(), &inner);
+  const int margin = Scaled(kMargin, Window());
+  const int right = inner.right - margin;
+  const int strip = 2 * margin + Scaled(kLabelHeight, Window());
+  const int below = strip + Scaled(kControlHeight, Window());
+  const int top = below + margin;
+  MoveWindow(label_, margin, margin, right - margin, strip - 2 * margin, TRUE);
+  control_->Place(
+      {margin, strip, banner_ ? right : margin + Scaled(kButtonWidth, Window()), below});
   MoveWindow(list_->Window(), 0, top, inner.right, inner.bottom - status_->Height() - top, TRUE);
 }
 
@@ -117,23 +91,6 @@ void DemoWindow::Close() {
   status_.reset();
 }
 
-LRESULT CALLBACK DemoWindow::Procedure(HWND window, UINT message, WPARAM wide, LPARAM wider) {
-  if (message == WM_NCCREATE) {
-    const auto* const create = reinterpret_cast<const CREATESTRUCTW*>(wider);
-    const auto self = reinterpret_cast<LONG_PTR>(create->lpCreateParams);
-    SetWindowLongPtrW(window, GWLP_USERDATA, self);
-    reinterpret_cast<DemoWindow*>(self)->window_ = window;
-  }
-  auto* const self = reinterpret_cast<DemoWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self == nullptr) return DefWindowProcW(window, message, wide, wider);
-  try {
-    return self->Handle(message, wide, wider);
-  } catch (...) {
-    MessageBoxW(window, DescribeCurrentFailure().c_str(), L"Files", MB_ICONEXCLAMATION);
-    return 0;
-  }
-}
-
 LRESULT DemoWindow::Handle(UINT message, WPARAM wide, LPARAM wider) {
   switch (message) {
     case WM_SIZE:
@@ -143,8 +100,8 @@ LRESULT DemoWindow::Handle(UINT message, WPARAM wide, LPARAM wider) {
       if (list_ != nullptr) SetFocus(list_->Window());
       return 0;
     case WM_GETMINMAXINFO:
-      reinterpret_cast<MINMAXINFO*>(wider)->ptMinTrackSize = {Scaled(kSmallestSize.cx, window_),
-                                                              Scaled(kSmallestSize.cy, window_)};
+      reinterpret_cast<MINMAXINFO*>(wider)->ptMinTrackSize = {Scaled(kSmallestSize.cx, Window()),
+                                                              Scaled(kSmallestSize.cy, Window())};
       return 0;
     case WM_COMMAND:
       Command(LOWORD(wide));
@@ -157,22 +114,32 @@ LRESULT DemoWindow::Handle(UINT message, WPARAM wide, LPARAM wider) {
     case WM_TIMER:
       FollowFolder();
       return 0;
+    case kCountMessage:
+      ShowCount();
+      return 0;
     case WM_DESTROY:
       Close();
       PostQuitMessage(0);
       return 0;
-    case WM_NCDESTROY:
-      window_ = nullptr;
-      return 0;
     default:
-      return DefWindowProcW(window_, message, wide, wider);
+      return DefWindowProcW(Window(), message, wide, wider);
   }
 }
 
 LRESULT DemoWindow::Notified(const NMHDR& notice) {
-  if (notice.idFrom == IDC_LIST && (notice.code == NM_DBLCLK || notice.code == NM_RETURN))
-    OpenFocusedFolder();
-  return 0;
+  if (notice.idFrom != IDC_LIST) return 0;
+  switch (notice.code) {
+    case NM_DBLCLK:
+    case NM_RETURN:
+      OpenFocusedFolder();
+      return 0;
+    case LVN_INSERTITEM:
+    case LVN_DELETEITEM:
+      CountChanged();
+      return 0;
+    default:
+      return 0;
+  }
 }
 
 }  // namespace hosts

@@ -101,43 +101,86 @@ void FolderList::Insert(int position, const FolderEntry& entry) {
     row.PutAt(L"SubItems", i, Variant(entry.*kColumns[i].text));
 }
 
-void FolderList::Change(int position, const FolderEntry& from, const FolderEntry& to) {
-  const Automation row = items_.GetObject(L"Item", {Variant(position)});
+// By the key: the user may have sorted the list.
+void FolderList::Remove(const FolderEntry& entry) { items_.Call(L"Remove", {Variant(entry.name)}); }
+
+void FolderList::Change(const FolderEntry& from, const FolderEntry& to) {
+  const Automation row = items_.GetObject(L"Item", {Variant(to.name)});
   for (int i = 1; i < static_cast<int>(std::size(kColumns)); ++i) {
     const auto text = kColumns[i].text;
     if (from.*text != to.*text) row.PutAt(L"SubItems", i, Variant(to.*text));
   }
 }
 
+// Under a filter a row that changes is taken for a new one, with the key of the one that it was.
+// The old row is removed, so that the key is free.
+void FolderList::Update(int position, const FolderEntry& from, const FolderEntry& to,
+                        bool filtered) {
+  if (from == to) return;
+  if (!filtered) return Change(from, to);
+  Remove(from);
+  Insert(position, to);
+}
+
+Automation FolderList::Row(int position) const {
+  return items_.GetObject(L"Item", {Variant(position)});
+}
+
+std::set<std::wstring> FolderList::ShownKeys() const {
+  std::set<std::wstring> keys;
+  for (int position = 1; position <= Shown(); ++position)
+    keys.insert(Row(position).Get(L"Key").Text());
+  return keys;
+}
+
 // Both are in the same order, so one walk along them finds every difference.
-void FolderList::Follow(std::vector<FolderEntry> entries) {
-  if (Shown() != Total()) return Fill(std::move(entries));
+void FolderList::Follow(std::vector<FolderEntry> entries, bool filtered) {
+  if (!filtered && Shown() != Total()) return Fill(std::move(entries));
   const DrawingPause pause(window_);
+  const std::set<std::wstring> shown = ShownKeys();
+  std::vector<FolderEntry> rows;
   auto old = entries_.cbegin();
   auto now = entries.cbegin();
   int position = 1;
   while (old != entries_.cend() || now != entries.cend()) {
-    if (now == entries.cend() || (old != entries_.cend() && ComesBefore(*old, *now))) {
-      items_.Call(L"Remove", {Variant(position)});
-      ++old;
+    const bool gone = now == entries.cend() || (old != entries_.cend() && ComesBefore(*old, *now));
+    if (!gone && (old == entries_.cend() || ComesBefore(*now, *old))) {
+      Insert(position++, *now);
+      rows.push_back(*now++);
       continue;
     }
-    if (old == entries_.cend() || ComesBefore(*now, *old))
-      Insert(position, *now);
-    else
-      Change(position, *old++, *now);
-    ++now;
-    ++position;
+    if (!shown.contains(old->name)) {
+      rows.push_back(*old);
+    } else if (gone) {
+      Remove(*old);
+    } else {
+      Update(position++, *old, *now, filtered);
+      rows.push_back(*now);
+    }
+    ++old;
+    if (!gone) ++now;
   }
-  entries_ = std::move(entries);
+  entries_ = std::move(rows);
 }
 
 const FolderEntry* FolderList::EntryAt(int row) const {
   if (row < 0) return nullptr;
-  const std::wstring name = items_.GetObject(L"Item", {Variant(row + 1)}).Get(L"Text").Text();
+  const std::wstring name = Row(row + 1).Get(L"Text").Text();
   for (const FolderEntry& entry : entries_)
     if (entry.name == name) return &entry;
   return nullptr;
+}
+
+std::wstring FolderList::TextOfRows() const {
+  std::wstring text;
+  for (int position = 1; position <= Shown(); ++position) {
+    const Automation row = Row(position);
+    text += row.Get(L"Text").Text();
+    for (int i = 1; i < static_cast<int>(std::size(kColumns)); ++i)
+      text += L'\t' + row.Get(L"SubItems", {Variant(i)}).Text();
+    text += L"\r\n";
+  }
+  return text;
 }
 
 void FolderList::FocusFirstRow() {

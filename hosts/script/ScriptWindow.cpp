@@ -17,34 +17,19 @@ constexpr SIZE kWindowSize = {640, 420};  // pixels at 96 dots per inch
 constexpr int kMargin = 6;
 constexpr int kTwipsPerInch = 1440;
 
-void RegisterWindowClass(WNDPROC procedure) {
-  WNDCLASSEXW windowClass{};
-  windowClass.cbSize = sizeof windowClass;
-  windowClass.lpfnWndProc = procedure;
-  windowClass.hInstance = GetModuleHandleW(nullptr);
-  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-  windowClass.lpszClassName = kWindowClass;
-  RegisterClassExW(&windowClass);
-}
-
 }  // namespace
 
 ScriptWindow::ScriptWindow(const std::wstring& caption) {
-  RegisterWindowClass(Procedure);
-  CreateWindowExW(0, kWindowClass, caption.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                  CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
-                  GetModuleHandleW(nullptr), this);
-  if (window_ == nullptr) ThrowLastError(L"Making the window");
+  Make({kWindowClass, L"Script"}, caption);
   listView_ = CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, nullptr,
                               WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS,
-                              0, 0, 0, 0, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+                              0, 0, 0, 0, Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
   if (listView_ == nullptr) ThrowLastError(L"Making the list");
   ListView_SetExtendedListViewStyle(listView_, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
   Check(CreateListViewObject(listView_, list_.Receive()), L"Making the list's object");
-  frame_ = std::make_unique<ControlFrame>(window_);
-  SetWindowPos(window_, nullptr, 0, 0, Scaled(kWindowSize.cx, window_),
-               Scaled(kWindowSize.cy, window_), SWP_NOMOVE | SWP_NOZORDER);
+  frame_ = std::make_unique<ControlFrame>(Window());
+  SetWindowPos(Window(), nullptr, 0, 0, Scaled(kWindowSize.cx, Window()),
+               Scaled(kWindowSize.cy, Window()), SWP_NOMOVE | SWP_NOZORDER);
 }
 
 ScriptWindow::~ScriptWindow() { Close(); }
@@ -53,7 +38,7 @@ IDispatch* ScriptWindow::AddControl(const std::wstring& progId, int width, int h
                                     EventHandler handler) {
   const RECT nowhere{};
   Entry entry{width, height,
-              std::make_unique<HostedControl>(*frame_, window_, progId, nowhere,
+              std::make_unique<HostedControl>(*frame_, Window(), progId, nowhere,
                                               [this](const MSG& key) { return MoveFocus(key); })};
   entry.control->Listen(std::move(handler));
   controls_.push_back(std::move(entry));
@@ -63,9 +48,9 @@ IDispatch* ScriptWindow::AddControl(const std::wstring& progId, int width, int h
 
 void ScriptWindow::Layout() {
   RECT inner{};
-  GetClientRect(window_, &inner);
-  const int dpi = DpiOf(window_);
-  const int margin = Scaled(kMargin, window_);
+  GetClientRect(Window(), &inner);
+  const int dpi = DpiOf(Window());
+  const int margin = Scaled(kMargin, Window());
   int left = margin;
   int bottom = 0;
   for (const Entry& entry : controls_) {
@@ -81,18 +66,18 @@ void ScriptWindow::Layout() {
 }
 
 void ScriptWindow::Show() {
-  ShowWindow(window_, SW_SHOWNORMAL);
-  UpdateWindow(window_);
+  ShowWindow(Window(), SW_SHOWNORMAL);
+  UpdateWindow(Window());
   SetFocus(listView_);
 }
 
 void ScriptWindow::Close() {
-  if (window_ != nullptr) DestroyWindow(window_);
+  if (Window() != nullptr) DestroyWindow(Window());
 }
 
 void ScriptWindow::RunWhileShown() {
   MSG message;
-  while (window_ != nullptr && IsWindowVisible(window_) &&
+  while (Window() != nullptr && IsWindowVisible(Window()) &&
          GetMessageW(&message, nullptr, 0, 0) > 0) {
     if (TranslateKey(message)) continue;
     TranslateMessage(&message);
@@ -101,7 +86,7 @@ void ScriptWindow::RunWhileShown() {
 }
 
 bool ScriptWindow::TranslateKey(MSG& message) {
-  if (GetActiveWindow() != window_) return false;
+  if (GetActiveWindow() != Window()) return false;
   for (const Entry& entry : controls_)
     if (entry.control->TranslateKey(message)) return true;
   return GetFocus() == listView_ && MoveFocus(message);
@@ -123,23 +108,6 @@ bool ScriptWindow::MoveFocus(const MSG& key) {
   return true;
 }
 
-LRESULT CALLBACK ScriptWindow::Procedure(HWND window, UINT message, WPARAM wide, LPARAM wider) {
-  if (message == WM_NCCREATE) {
-    const auto* const create = reinterpret_cast<const CREATESTRUCTW*>(wider);
-    const auto self = reinterpret_cast<LONG_PTR>(create->lpCreateParams);
-    SetWindowLongPtrW(window, GWLP_USERDATA, self);
-    reinterpret_cast<ScriptWindow*>(self)->window_ = window;
-  }
-  auto* const self = reinterpret_cast<ScriptWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self == nullptr) return DefWindowProcW(window, message, wide, wider);
-  try {
-    return self->Handle(message, wide, wider);
-  } catch (...) {
-    MessageBoxW(window, DescribeCurrentFailure().c_str(), L"Script", MB_ICONEXCLAMATION);
-    return 0;
-  }
-}
-
 LRESULT ScriptWindow::Handle(UINT message, WPARAM wide, LPARAM wider) {
   switch (message) {
     case WM_SIZE:
@@ -153,11 +121,8 @@ LRESULT ScriptWindow::Handle(UINT message, WPARAM wide, LPARAM wider) {
       controls_.clear();
       frame_.reset();
       return 0;
-    case WM_NCDESTROY:
-      window_ = nullptr;
-      return 0;
     default:
-      return DefWindowProcW(window_, message, wide, wider);
+      return DefWindowProcW(Window(), message, wide, wider);
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "container/HostedControl.h"
+#include "container/TopWindow.h"
 
 #include <memory>
 #include <string>
@@ -11,14 +12,12 @@ namespace hosts {
 
 // The window that a script has: a list view with its object, and controls in a strip above it. It
 // is there from the start and comes up when the script shows it.
-class ScriptWindow {
+class ScriptWindow final : private TopWindow {
  public:
   explicit ScriptWindow(const std::wstring& caption);
-  ScriptWindow(const ScriptWindow&) = delete;
-  ScriptWindow& operator=(const ScriptWindow&) = delete;
   ~ScriptWindow();
 
-  HWND Window() const { return window_; }
+  using TopWindow::Window;
   IDispatch* List() const { return list_.Get(); }
 
   // A control right of those that are there already. Measures in twips; no width at all is what is
@@ -37,13 +36,11 @@ class ScriptWindow {
     std::unique_ptr<HostedControl> control;
   };
 
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM wider);
-  LRESULT Handle(UINT message, WPARAM wide, LPARAM wider);
+  LRESULT Handle(UINT message, WPARAM wide, LPARAM wider) override;
   void Layout();
   bool TranslateKey(MSG& message);
   bool MoveFocus(const MSG& key);
 
-  HWND window_ = nullptr;
   HWND listView_ = nullptr;
   ComRef<IDispatch> list_;
   std::unique_ptr<ControlFrame> frame_;

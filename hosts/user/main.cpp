@@ -1,9 +1,11 @@
 #include "container/Failure.h"
+#include "user/Banner.h"
 #include "user/FilterDialog.h"
 #include "user/Hands.h"
 #include "user/RemoteList.h"
 #include "user/Screen.h"
 
+#include <algorithm>
 #include <commctrl.h>
 #include <cstdio>
 #include <shellapi.h>
@@ -22,8 +24,10 @@ constexpr char kUsage[] =
     "CLASS is the class of the program's window.\n"
     "\n"
     "  user rows CLASS                        the first column of its list, as it stands there\n"
-    "  user status CLASS                      the parts of its status line\n"
+    "  user status CLASS TEXT                 waits until its status line has it; tells its parts\n"
+    "  user caption CLASS TEXT                waits until the banner says so; tells what it says\n"
     "  user press CLASS BUTTON                clicks a button\n"
+    "  user clipboard                         the text on the clipboard\n"
     "  user dialog CLASS                      clicks Filter and waits for the dialog\n"
     "  user choose COLUMN OPERATOR TEXT       in the dialog\n"
     "  user leave BUTTON                      clicks a button of the dialog; waits until it goes\n"
@@ -32,10 +36,12 @@ constexpr char kUsage[] =
 constexpr wchar_t kDialogClass[] = L"RowSifterForm";
 
 void Print(const std::wstring& line) {
-  char text[4096];
-  const int length =
-      WideCharToMultiByte(CP_UTF8, 0, line.c_str(), -1, text, sizeof text, nullptr, nullptr);
-  if (length > 0) std::puts(text);
+  const int units = static_cast<int>(line.size());
+  const int size =
+      WideCharToMultiByte(CP_UTF8, 0, line.c_str(), units, nullptr, 0, nullptr, nullptr);
+  std::string text(static_cast<std::size_t>(size), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, line.c_str(), units, text.data(), size, nullptr, nullptr);
+  std::puts(text.c_str());
 }
 
 HWND ChildOfClass(HWND window, const std::wstring& windowClass) {
@@ -58,8 +64,33 @@ void Rows(const Arguments& arguments) {
 
 void Status(const Arguments& arguments) {
   const HWND window = WaitForWindow(arguments[0]);
-  for (const std::wstring& part : PartsOf(ChildOfClass(window, STATUSCLASSNAMEW))) Print(part);
+  const HWND status = ChildOfClass(window, STATUSCLASSNAMEW);
+  std::vector<std::wstring> parts;
+  WaitUntil(
+      [&] {
+        parts = PartsOf(status);
+        return std::any_of(parts.begin(), parts.end(), [&](const std::wstring& part) {
+          return part.find(arguments[1]) != std::wstring::npos;
+        });
+      },
+      L"for \"" + arguments[1] + L"\" in the status line");
+  for (const std::wstring& part : parts) Print(part);
   WaitUntilPainted(window);
+}
+
+void Caption(const Arguments& arguments) {
+  const HWND window = WaitForWindow(arguments[0]);
+  WaitForBannerCaption(window, arguments[1],
+                       [](const std::wstring& caption) { Print(L"caption: " + caption); });
+  WaitUntilPainted(window);
+}
+
+void Clipboard(const Arguments&) {
+  if (!OpenClipboard(nullptr)) ThrowLastError(L"Opening the clipboard");
+  const HANDLE text = GetClipboardData(CF_UNICODETEXT);
+  if (text != nullptr) Print(static_cast<const wchar_t*>(GlobalLock(text)));
+  if (text != nullptr) GlobalUnlock(text);
+  CloseClipboard();
 }
 
 void PressButton(const Arguments& arguments) {
@@ -92,9 +123,9 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {L"rows", 1, Rows},         {L"status", 1, Status}, {L"press", 2, PressButton},
-    {L"dialog", 1, OpenDialog}, {L"choose", 3, Choose}, {L"leave", 1, Leave},
-    {L"close", 1, CloseWindow},
+    {L"rows", 1, Rows},         {L"status", 2, Status},   {L"press", 2, PressButton},
+    {L"dialog", 1, OpenDialog}, {L"choose", 3, Choose},   {L"leave", 1, Leave},
+    {L"close", 1, CloseWindow}, {L"caption", 2, Caption}, {L"clipboard", 0, Clipboard},
 };
 
 Arguments CommandLine() {
