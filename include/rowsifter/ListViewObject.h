@@ -40,7 +40,8 @@
 //   system's window text.
 // - SortKey is the 0-based column that Sorted = True sorts by, by character code; SortOrder is 0
 //   ascending, 1 descending. Rows that are added later go where they belong.
-// - SetFocus gives the window the input focus. ColumnClick comes behind the parent's own handling of
+// - SetFocus gives the window the input focus. ColumnClick comes behind the parent's own handling
+// of
 //   LVN_COLUMNCLICK, with the column; sinks are found and connected like those of a control.
 // - Errors: 5 unknown key, 9 unknown position, 13 wrong type, 457 key taken, as result codes
 //   0x800A0000 + number with their descriptions.
