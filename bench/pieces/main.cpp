@@ -24,8 +24,8 @@ bool TakeOption(int& argc, char** argv, const char* option) {
 
 }  // namespace
 
-// Measures the pieces, the whole apply beside the yardsticks, and the banner. --pieces, --ratios and
-// --banner choose one of the three.
+// Measures the pieces, the whole apply beside the yardsticks, and the banner. --pieces, --ratios
+// and --banner choose one of the three.
 int main(int argc, char** argv) {
   const bool onlyRatios = TakeOption(argc, argv, "--ratios");
   const bool onlyPieces = TakeOption(argc, argv, "--pieces");
