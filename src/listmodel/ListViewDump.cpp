@@ -124,8 +124,7 @@ void ListViewDump::AddRowToDump(const RowData& row) {
   const auto cells = static_cast<std::size_t>(columns > 0 ? columns - 1 : 0);
   RowPtr added = RowPtr::Share(&row);
   while (added->CellCount() > cells) added = added.WithoutCell(added->CellCount());
-  while (added->CellCount() < cells)
-    added = added.WithNewCell(added->CellCount() + 1, 0);
+  while (added->CellCount() < cells) added = added.WithNewCell(added->CellCount() + 1, 0);
   RowStore& rows = listItems_->rows_;
   try {
     rows.Append(added);
