@@ -27,8 +27,8 @@ class FormWindow final : public ControlWatcher, public ControlHost {
   HWND Handle() const override { return window_; }
   const FormMeasures& Measures() const override { return measures_; }
 
-  // Puts the window on the screen, owned by `owner` (the host's). Without one (null) it stands on its
-  // own, and outlives the host's windows.
+  // Puts the window on the screen, owned by `owner` (the host's). Without one (null) it stands on
+  // its own, and outlives the host's windows.
   void Show(HWND owner);
   void Hide();
   bool IsShown() const { return shown_; }
