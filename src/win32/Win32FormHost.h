@@ -23,8 +23,8 @@ class Win32FormHost final : public FormHost {
   void DeleteSystemMenuItem(std::int32_t position) override;
   void Unload(Form& form) override;
 
-  // The window that forms belong to while they are shown modally; it is disabled meanwhile. Null (as
-  // at first): the window that is active then. Forms that are shown modeless belong to none.
+  // The window that forms belong to while they are shown modally; it is disabled meanwhile. Null
+  // (as at first): the window that is active then. Forms that are shown modeless belong to none.
   void SetOwner(HWND owner) { owner_ = owner; }
 
   // The form's window, or null before its first showing.
