@@ -1,6 +1,8 @@
 #include "AllocationSpy.h"
 #include "HostedBanner.h"
 
+#include <algorithm>
+
 namespace sifter {
 
 namespace {
