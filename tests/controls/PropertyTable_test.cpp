@@ -17,9 +17,11 @@ struct Lamp {
 };
 
 const PropertyRow<Lamp> kRows[] = {
-    {u"Colour", u"Color", Saved::kUnlikeDefault, u"white"_text, [](const Lamp& lamp) { return Value(lamp.colour); },
+    {u"Colour", u"Color", Saved::kUnlikeDefault, u"white"_text,
+     [](const Lamp& lamp) { return Value(lamp.colour); },
      [](Lamp& lamp, const Value& value) { lamp.colour = ValueToText(value); }},
-    {u"Watts", u"Watts", Saved::kUnlikeDefault, std::nullopt, [](const Lamp& lamp) { return Value(lamp.watts); },
+    {u"Watts", u"Watts", Saved::kUnlikeDefault, std::nullopt,
+     [](const Lamp& lamp) { return Value(lamp.watts); },
      [](Lamp& lamp, const Value& value) { lamp.watts = ValueToInt32(value); }},
 };
 
