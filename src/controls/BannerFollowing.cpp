@@ -28,15 +28,14 @@ void TSLvwBannerFilter::OnMessage(std::uint32_t message, std::int32_t wParam) {
 // the host has put in since the list was read are saved then.
 void TSLvwBannerFilter::Overhear(std::uint32_t message) {
   if (message == kInsertItem) ++rowsOverheard_;
-  if (!AtWork()) {
+  if (AtWork() && refill_ == Refill::kPutting) return;
+  if (message == kInsertItem || !AtWork()) {
     hostChanged_ = true;
-  } else if (refill_ != Refill::kPutting) {
-    if (message == kInsertItem)
-      hostChanged_ = true;
-    else if (std::exchange(rowsOverheard_, 0) > 0 && (following_ || mfrmForm.InWork()))
-      AddUnknown(following_ ? mListview : mfrmForm.UsersListview);
-    if (message == kDeleteAllItems && refill_ == Refill::kBegun) refill_ = Refill::kPutting;
+    return;
   }
+  if (std::exchange(rowsOverheard_, 0) > 0 && (following_ || mfrmForm.InWork()))
+    AddUnknown(following_ ? mListview : mfrmForm.UsersListview);
+  if (message == kDeleteAllItems && refill_ == Refill::kBegun) refill_ = Refill::kPutting;
 }
 
 void TSLvwBannerFilter::AddUnknown(const Ref<HostListView>& list) {

@@ -66,6 +66,15 @@ TEST_F(BannerInterference, ARowOfAnotherListIsNoneOfTheFilteredOnes) {
   EXPECT_EQ(Texts(*list), kTrees);
 }
 
+TEST_F(BannerInterference, ARowThatCannotBeGoesNowhere) {
+  AttachAndFilter();
+  for (const std::intptr_t position : {std::intptr_t{0x7FFFFFFF}, std::intptr_t{-1}})
+    windows.Send(list->hWnd(), kDeleteItem, position);
+  EXPECT_TRUE(recorder.Shows({}));
+  EXPECT_EQ(dialog.ListView1->ListItems()->Count(), 40);
+  EXPECT_EQ(Caption(), u"Displaying 12 of 40 Items");
+}
+
 TEST_F(BannerInterference, AStartThatIsBrokenOffLeavesNoForeignCopyBehind) {
   AttachAndFilter();
   const auto talkative = MakeRef<TalkativeList>(other);
